@@ -1,0 +1,27 @@
+#include "platform/host/Process.h"
+
+#include "platform/runtime/Error.h"
+
+#include <QProcess>
+
+namespace host {
+
+void startProcess(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    if (program.isEmpty() || !process.startDetached())
+        runtime::raise(runtime::FileNotFound,
+                       runtime::standardDescription(runtime::FileNotFound) + QStringLiteral(": ") + program);
+}
+
+void startCommand(const QString& commandLine) {
+    QStringList parts = QProcess::splitCommand(commandLine);
+    const QString program = parts.isEmpty() ? QString() : parts.takeFirst();
+    startProcess(program, parts);
+}
+
+} // namespace host
