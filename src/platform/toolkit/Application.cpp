@@ -1,0 +1,119 @@
+#include "platform/toolkit/Application.h"
+
+#include "platform/runtime/Error.h"
+#include "platform/toolkit/Fonts.h"
+#include "platform/toolkit/Form.h"
+#include "platform/toolkit/MessageBoxes.h"
+#include "platform/toolkit/QuiverStyle.h"
+
+#include <QEvent>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace toolkit {
+
+namespace {
+
+constexpr auto scaleVariable = "QT_SCALE_FACTOR";
+
+FatalHandler& fatalHandler() {
+    static FatalHandler handler;
+    return handler;
+}
+
+bool& scaleIsOurs() {
+    static bool ours = false;
+    return ours;
+}
+
+} // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    if (scaleIsOurs()) {
+        qunsetenv(scaleVariable); // ours alone: a program started from here scales by itself
+    }
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    if (italian.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        installTranslator(&italian);
+    }
+    setAttribute(Qt::AA_DontUseNativeDialogs);
+    setAttribute(Qt::AA_DontUseNativeMenuBar);
+    setStyle(new QuiverStyle);
+    setPalette(QuiverStyle::colours());
+    setFont(formFont());
+    setQuitOnLastWindowClosed(false);
+}
+
+Application::~Application() {
+    Form::destroyAll();
+}
+
+double Application::scaleFor(const QSize& available) {
+    const double fit = std::min(available.width() / 1024.0, available.height() / 768.0);
+    return std::max(1.0, std::floor(fit * 4.0) / 4.0);
+}
+
+void Application::prepareScale(int& argc, char** argv) {
+    for (const char* name : {scaleVariable, "QT_SCREEN_SCALE_FACTORS"}) {
+        if (qEnvironmentVariableIsSet(name)) {
+            return;
+        }
+    }
+    double scale = 1.0;
+    {
+        const QGuiApplication probe(argc, argv);
+        const QScreen* screen = QGuiApplication::primaryScreen();
+        if (screen != nullptr && screen->devicePixelRatio() <= 1.0) {
+            scale = scaleFor(screen->availableSize());
+        }
+    }
+    if (scale > 1.0) {
+        qputenv(scaleVariable, QByteArray::number(scale));
+        scaleIsOurs() = true;
+    }
+}
+
+void Application::fatal(int number, const QString& description) {
+    if (fatalHandler()) {
+        fatalHandler()(number, description);
+        return;
+    }
+    static bool reporting = false;
+    if (!reporting) {
+        reporting = true;
+        try {
+            MessageBoxes().show(host::Icon::Critical,
+                                QStringLiteral("Errore %1\n\n%2").arg(number).arg(description),
+                                host::Buttons::Ok);
+        } catch (...) { // nothing is left to tell it to
+        }
+    }
+    std::_Exit(EXIT_FAILURE);
+}
+
+void Application::setFatalHandler(FatalHandler handler) {
+    fatalHandler() = std::move(handler);
+}
+
+void Application::purge() {
+    sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const runtime::Error& error) {
+        fatal(error.number(), error.description());
+    } catch (const std::exception& error) {
+        fatal(0, QString::fromLocal8Bit(error.what()));
+    } catch (...) {
+        fatal(0, QStringLiteral("Errore sconosciuto"));
+    }
+    return false;
+}
+
+} // namespace toolkit

@@ -1,0 +1,49 @@
+#include "platform/toolkit/DatePicker.h"
+
+#include "platform/runtime/Error.h"
+#include "platform/toolkit/FocusReasons.h"
+
+#include <QCalendarWidget>
+#include <QFocusEvent>
+#include <QWheelEvent>
+
+namespace toolkit {
+
+DatePicker::DatePicker(const QString& name, QWidget* parent) : QDateEdit(QDate::currentDate(), parent) {
+    setObjectName(name);
+    setLocale(QLocale(QLocale::Italian, QLocale::Italy));
+    setDateRange(QDate(1753, 1, 1), QDate(9999, 12, 31));
+    setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    setCalendarPopup(true);
+    calendarWidget()->setLocale(locale());
+    calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+    calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    connect(this, &QDateEdit::dateChanged, this, &DatePicker::changed);
+}
+
+void DatePicker::setValue(QDate date) {
+    if (!date.isValid() || date < minimumDate() || date > maximumDate()) {
+        runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
+    }
+    setDate(date);
+}
+
+void DatePicker::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+void DatePicker::focusInEvent(QFocusEvent* event) {
+    QDateEdit::focusInEvent(event);
+    if (betweenControls(event->reason())) {
+        Q_EMIT gotFocus();
+    }
+}
+
+void DatePicker::focusOutEvent(QFocusEvent* event) {
+    QDateEdit::focusOutEvent(event);
+    if (betweenControls(event->reason())) {
+        Q_EMIT lostFocus();
+    }
+}
+
+} // namespace toolkit

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QDateEdit>
+
+namespace toolkit {
+
+/// A date as dd/MM/yyyy with an Italian calendar. Shows today at first. `changed` comes at once, also when
+/// the program sets another date.
+class DatePicker : public QDateEdit {
+    Q_OBJECT
+public:
+    DatePicker(const QString& name, QWidget* parent);
+
+    QDate value() const { return date(); }
+    /// Raises runtime::InvalidPropertyValue for an invalid date or one before 1753.
+    void setValue(QDate date);
+
+Q_SIGNALS:
+    void changed();
+    /// The focus came from another control (not back from a popup, a box or another window).
+    void gotFocus();
+    void lostFocus();
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+} // namespace toolkit

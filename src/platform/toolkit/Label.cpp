@@ -1,0 +1,124 @@
+#include "platform/toolkit/Label.h"
+
+#include "platform/toolkit/Twips.h"
+
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <algorithm>
+
+namespace toolkit {
+
+Label::Label(const QString& name, const QString& caption, QWidget* parent) : QLabel(caption, parent) {
+    setObjectName(name);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setTextFormat(Qt::PlainText);
+    setMargin(0);
+    setIndent(0);
+}
+
+void Label::setHome(double left, double top, double width, double height) {
+    home_ = toPixels(left, top, width, height);
+    setGeometry(home_);
+    if (isVisible()) {
+        fit();
+    }
+}
+
+void Label::setCaption(const QString& caption) {
+    if (caption == text()) {
+        return;
+    }
+    setText(caption);
+    if (isVisible()) {
+        fit();
+    }
+}
+
+int Label::textWidth(const QFont& font) const {
+    return QFontMetrics(font)
+        .size(Qt::TextSingleLine | (buddy() ? Qt::TextShowMnemonic : 0), text().trimmed())
+        .width();
+}
+
+QRect Label::freeRoom() const {
+    QRect room = home_;
+    room.setLeft(0);
+    room.setRight(parentWidget()->width() - 1);
+    for (const QObject* child : parentWidget()->children()) {
+        const auto* sibling = qobject_cast<const QWidget*>(child);
+        if (sibling == nullptr || sibling == this || sibling->isHidden() || sibling->isWindow()) {
+            continue;
+        }
+        const QRect other = sibling->geometry();
+        if (other.contains(home_) || other.bottom() < home_.top() || other.top() > home_.bottom()) {
+            continue;
+        }
+        if (other.left() > home_.left()) {
+            room.setRight(std::min(room.right(), std::max(home_.right(), other.left() - 1)));
+        } else {
+            room.setLeft(std::max(room.left(), std::min(home_.left(), other.right() + 1)));
+        }
+    }
+    return room;
+}
+
+void Label::fit() {
+    if (home_.isNull()) {
+        home_ = geometry();
+    }
+    QFont plain = font();
+    plain.setStretch(QFont::Unstretched);
+    QRect place = home_;
+    if (!wordWrap() && parentWidget() != nullptr) {
+        const int needed = textWidth(plain) + 2 * (margin() + frameWidth());
+        if (needed > place.width()) {
+            const QRect room = freeRoom();
+            const int missing = needed - place.width();
+            if (alignment() & Qt::AlignHCenter) {
+                const int side = (missing + 1) / 2;
+                place.setLeft(std::max(room.left(), place.left() - side));
+                place.setRight(std::min(room.right(), place.right() + side));
+            } else if (alignment() & Qt::AlignRight) {
+                place.setLeft(std::max(room.left(), place.left() - missing));
+            } else {
+                place.setRight(std::min(room.right(), place.right() + missing));
+            }
+            if (needed > place.width()) {
+                plain.setStretch(std::max(narrowestStretch, place.width() * 100 / needed));
+            }
+        }
+    }
+    if (plain != font()) {
+        setFont(plain);
+    }
+    if (place != geometry()) {
+        setGeometry(place);
+    }
+}
+
+bool Label::isWhole() const {
+    if (wordWrap()) {
+        const QRect box = QFontMetrics(font()).boundingRect(QRect(0, 0, contentsRect().width(), 10000),
+                                                            int(alignment()) | Qt::TextWordWrap, text());
+        return box.width() <= contentsRect().width() && box.height() <= contentsRect().height();
+    }
+    return textWidth(font()) <= contentsRect().width();
+}
+
+void Label::showEvent(QShowEvent* event) {
+    QLabel::showEvent(event);
+    fit();
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* event) {
+    QLabel::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+        Q_EMIT clicked();
+    }
+}
+
+void place(Label& label, double left, double top, double width, double height) {
+    label.setHome(left, top, width, height);
+}
+
+} // namespace toolkit

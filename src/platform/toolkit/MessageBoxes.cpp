@@ -1,0 +1,60 @@
+#include "platform/toolkit/MessageBoxes.h"
+
+#include "platform/host/Application.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace toolkit {
+
+namespace {
+
+QMessageBox::Icon picture(host::Icon icon) {
+    switch (icon) {
+    case host::Icon::Critical:
+        return QMessageBox::Critical;
+    case host::Icon::Question:
+        return QMessageBox::Question;
+    case host::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case host::Icon::Information:
+        return QMessageBox::Information;
+    case host::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+} // namespace
+
+host::Answer MessageBoxes::show(host::Icon icon, const QString& text, host::Buttons buttons) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setWindowTitle(host::title());
+    box.setIcon(picture(icon));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    if (buttons == host::Buttons::Ok) {
+        QPushButton* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        box.setDefaultButton(ok);
+        box.setEscapeButton(ok);
+        box.exec();
+        return host::Answer::Ok;
+    }
+    QPushButton* yes = box.addButton(QStringLiteral("Sì"), QMessageBox::YesRole);
+    QPushButton* no = box.addButton(QStringLiteral("No"), QMessageBox::NoRole);
+    QPushButton* escape = no;
+    if (buttons == host::Buttons::YesNoCancel) {
+        escape = box.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole);
+    }
+    box.setDefaultButton(yes);
+    box.setEscapeButton(escape);
+    box.exec();
+    if (box.clickedButton() == yes) {
+        return host::Answer::Yes;
+    }
+    return box.clickedButton() == no ? host::Answer::No : host::Answer::Cancel;
+}
+
+} // namespace toolkit

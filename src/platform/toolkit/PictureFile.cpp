@@ -1,0 +1,63 @@
+#include "platform/toolkit/PictureFile.h"
+
+#include "platform/host/ProgramDirectory.h"
+#include "platform/runtime/Error.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace toolkit {
+
+namespace {
+
+[[noreturn]] void refuse(const QString& file) {
+    runtime::raise(PictureFile::badPicture, QStringLiteral("Immagine non valida: %1").arg(file));
+}
+
+} // namespace
+
+PictureFile::PictureFile(const QString& path) : file_(host::resolve(path)) {
+    if (!QFileInfo(file_).isFile()) {
+        runtime::raise(runtime::FileNotFound, QStringLiteral("File non trovato: %1").arg(file_));
+    }
+    QImageReader reader(file_);
+    reader.setDecideFormatFromContent(true);
+    size_ = reader.size();
+    if (!size_.isValid()) { // a format that tells its size only when read
+        const QImage image = reader.read();
+        if (image.isNull()) {
+            refuse(file_);
+        }
+        size_ = image.size();
+    }
+}
+
+QImage PictureFile::read(const QSize& scaled) const {
+    QImageReader reader(file_);
+    reader.setDecideFormatFromContent(true);
+    if (scaled != size_) {
+        reader.setScaledSize(scaled);
+    }
+    QImage image = reader.read();
+    if (image.isNull()) {
+        refuse(file_);
+    }
+    if (image.size() != scaled) {
+        image = image.scaled(scaled, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    return image;
+}
+
+QImage PictureFile::whole() const {
+    QSize scaled = size_;
+    while (scaled.width() > largest || scaled.height() > largest) {
+        scaled /= 2;
+    }
+    return read(scaled.expandedTo({1, 1}));
+}
+
+QImage PictureFile::fitted(const QSize& box) const {
+    return read(size_.scaled(box, Qt::KeepAspectRatio).expandedTo({1, 1}));
+}
+
+} // namespace toolkit

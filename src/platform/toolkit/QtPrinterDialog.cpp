@@ -1,0 +1,62 @@
+#include "platform/toolkit/QtPrinterDialog.h"
+
+#include "platform/host/Application.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QPageSize>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <algorithm>
+
+namespace toolkit {
+
+bool QtPrinterDialog::choose(QPrinter& printer, PrintRange& range) {
+    if (!lastPrinter_.isEmpty()) {
+        printer.setPrinterName(lastPrinter_);
+    }
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setFromTo(range.from, range.to);
+    const QString folder = lastFolder_.isEmpty() ? QDir::homePath() : lastFolder_;
+    const QString name =
+        range.proposedFile.isEmpty() ? QStringLiteral("%1.pdf").arg(host::title()) : range.proposedFile;
+    const QString proposed = QDir(folder).filePath(name);
+    if (lastWasPdf_) {
+        printer.setOutputFileName(proposed);
+    }
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setObjectName(QStringLiteral("printerDialog"));
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, true);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, true);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+    dialog.setMinMax(range.minimum, range.maximum);
+    dialog.setFromTo(range.from, range.to);
+    if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"))) {
+        file->setText(proposed);
+    }
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    if (dialog.printRange() == QAbstractPrintDialog::PageRange) {
+        range.from = std::clamp(dialog.fromPage(), range.minimum, range.maximum);
+        range.to = std::clamp(dialog.toPage(), range.from, range.maximum);
+    } else {
+        range.from = range.minimum;
+        range.to = range.maximum;
+    }
+    range.copies = std::max(1, printer.copyCount());
+    printer.setCopyCount(1);
+    printer.setPrintRange(QPrinter::AllPages);
+    lastWasPdf_ = printer.outputFormat() == QPrinter::PdfFormat;
+    if (lastWasPdf_) {
+        lastFolder_ = QFileInfo(printer.outputFileName()).absolutePath();
+    } else {
+        lastPrinter_ = printer.printerName();
+    }
+    return true;
+}
+
+} // namespace toolkit

@@ -1,0 +1,88 @@
+#include "platform/toolkit/TextArea.h"
+
+#include "platform/toolkit/ApostropheGuard.h"
+#include "platform/toolkit/FocusReasons.h"
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextDocument>
+
+namespace toolkit {
+
+TextArea::TextArea(const QString& name, QWidget* parent) : QPlainTextEdit(parent) {
+    setObjectName(name);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTabChangesFocus(true);
+    document()->setDocumentMargin(2);
+    connect(this, &QPlainTextEdit::textChanged, this, &TextArea::report);
+}
+
+void TextArea::setText(const QString& text) {
+    setting_ = true;
+    setPlainText(text);
+    setting_ = false;
+    report();
+}
+
+void TextArea::report() {
+    if (setting_) {
+        return;
+    }
+    const QString now = toPlainText();
+    if (now != reported_) { // the editor also tells of changes that are none
+        reported_ = now;
+        Q_EMIT changed();
+    }
+}
+
+void TextArea::select(int start, int length) {
+    const int last = document()->characterCount() - 1;
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(std::clamp(start, 0, last));
+    cursor.setPosition(std::clamp(start + length, 0, last), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void TextArea::keyPressEvent(QKeyEvent* event) {
+    if (guarded_ && event->text() == QLatin1String("'") && !isReadOnly()) {
+        insertPlainText(ApostropheGuard::guarded(event->text()));
+        event->accept();
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+void TextArea::inputMethodEvent(QInputMethodEvent* event) {
+    if (guarded_ && event->commitString().contains(QLatin1Char('\''))) {
+        event->setCommitString(ApostropheGuard::guarded(event->commitString()), event->replacementStart(),
+                               event->replacementLength());
+    }
+    QPlainTextEdit::inputMethodEvent(event);
+}
+
+void TextArea::insertFromMimeData(const QMimeData* source) {
+    if (guarded_ && source->hasText()) {
+        insertPlainText(ApostropheGuard::guarded(source->text()));
+        return;
+    }
+    QPlainTextEdit::insertFromMimeData(source);
+}
+
+void TextArea::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    if (betweenControls(event->reason())) {
+        Q_EMIT gotFocus();
+    }
+}
+
+void TextArea::focusOutEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusOutEvent(event);
+    if (betweenControls(event->reason())) {
+        Q_EMIT lostFocus();
+    }
+}
+
+} // namespace toolkit

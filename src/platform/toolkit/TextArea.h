@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace toolkit {
+
+/// A text box of several lines with a vertical scroll bar; Tab leaves it. Lines are joined by "\n".
+class TextArea : public QPlainTextEdit {
+    Q_OBJECT
+public:
+    TextArea(const QString& name, QWidget* parent);
+
+    QString text() const { return toPlainText(); }
+    /// `changed` comes at once, before the call returns, and only for another text.
+    void setText(const QString& text);
+    void select(int start, int length);
+    /// Typed and pasted straight apostrophes become typographic ones.
+    void guardApostrophes() { guarded_ = true; }
+
+Q_SIGNALS:
+    void changed();
+    /// The focus came from another control (not back from a popup, a box or another window).
+    void gotFocus();
+    void lostFocus();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void report();
+
+    QString reported_;
+    bool guarded_ = false;
+    bool setting_ = false;
+};
+
+} // namespace toolkit

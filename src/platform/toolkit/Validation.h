@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <functional>
+
+class QWidget;
+
+namespace toolkit {
+
+/// Lets fields of a page keep the focus. When the focus would leave a field for another control of the same
+/// page (a press of the mouse on one, a turn of the wheel on a scroll bar, Tab, an access key), the field's
+/// check runs first; if it fails, having told the user, the focus stays and the other control does not act.
+/// Popups, boxes, other windows and toolbar buttons, which take no focus, ask no check.
+class Validation : public QObject {
+    Q_OBJECT
+public:
+    /// `page` is the form or any container of the fields; it owns the validation.
+    explicit Validation(QWidget* page);
+
+    /// `check` shows its message and gives false to keep the focus.
+    void add(QWidget* field, std::function<bool()> check);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// The checked field that has the focus, or nullptr.
+    QWidget* currentField() const;
+    bool leavesFor(QWidget* target, const QWidget* field) const;
+    bool refuses(QWidget* field);
+
+    QWidget* page_;
+    QHash<QWidget*, std::function<bool()>> checks_;
+    bool checking_ = false;
+    bool swallowRelease_ = false;
+};
+
+} // namespace toolkit
