@@ -1,0 +1,118 @@
+#include "printing/Picture.h"
+
+#include "platform/runtime/Error.h"
+#include "printing/Surface.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+
+namespace sheet {
+
+namespace {
+
+/// The finest the sheet is ever rastered: four device pixels to the logical one.
+constexpr double finestRatio = 4;
+
+/// A scaled copy up to this size (a screen's) is kept with its picture; the printer's are made and dropped.
+constexpr qsizetype bytesKeptScaled = 512 * 1024;
+
+/// A picture that no box of ours could need in full is refused above this many pixels if its format
+/// cannot be decoded scaled (GIF, BMP): 100 megapixels.
+constexpr qint64 mostPixels = 100'000'000;
+
+[[noreturn]] void refuse(const QString& path, const QString& reason) {
+    runtime::raise(InvalidPicture, QStringLiteral("Immagine non valida: %1 (%2)").arg(path, reason));
+}
+
+/// Opens the reader on an existing picture and gives its size after any turning the file asks for.
+QSize open(QImageReader& reader, const QString& path) {
+    if (!QFileInfo(path).isFile())
+        runtime::raise(runtime::FileNotFound, QStringLiteral("Impossibile trovare il file: %1").arg(path));
+    reader.setFileName(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    reader.setAllocationLimit(512);
+    QSize size = reader.size();
+    if (!reader.canRead() || !size.isValid() || size.isEmpty())
+        refuse(path, reader.errorString());
+    if (qint64(size.width()) * size.height() > mostPixels && reader.format() != "jpeg")
+        refuse(path, QStringLiteral("troppo grande"));
+    if (reader.transformation() & QImageIOHandler::TransformationRotate90)
+        size.transpose();
+    return size;
+}
+
+QImage read(QImageReader& reader, const QString& path) {
+    QImage image = reader.read();
+    if (image.isNull())
+        refuse(path, reader.errorString());
+    const auto format = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    image.convertTo(format);
+    return image;
+}
+
+QSize finestSize(QSizeF box) {
+    return (box * finestRatio / twipsPerPixel).toSize().expandedTo({1, 1});
+}
+
+} // namespace
+
+struct Picture::Data {
+    QString path;
+    bool isVector = false;
+    QImage master; ///< At the finest detail needed; null for a vector picture.
+    QImage latest; ///< The latest small scaled copy.
+};
+
+QSize Picture::ownSize(const QString& path) {
+    QImageReader reader;
+    return open(reader, path);
+}
+
+Picture Picture::fromFile(const QString& path, QSizeF box) {
+    QImageReader reader;
+    const QSize own = open(reader, path);
+    auto data = std::make_shared<Data>();
+    data->path = path;
+    data->isVector = reader.format() == "svg" || reader.format() == "svgz";
+    if (!data->isVector) {
+        const QSize finest = finestSize(box);
+        if (own.width() > finest.width() || own.height() > finest.height()) {
+            QSize target = finest.boundedTo(own);
+            if (reader.transformation() & QImageIOHandler::TransformationRotate90)
+                target.transpose();
+            reader.setScaledSize(target);
+        }
+        data->master = read(reader, path);
+    }
+    Picture picture;
+    picture.mData = std::move(data);
+    return picture;
+}
+
+qsizetype Picture::bytes() const {
+    return mData ? mData->master.sizeInBytes() + mData->latest.sizeInBytes() : 0;
+}
+
+QImage Picture::stretchedTo(QSize pixels) const {
+    if (!mData || pixels.isEmpty())
+        return {};
+    if (mData->latest.size() == pixels)
+        return mData->latest;
+    QImage scaled;
+    if (mData->isVector) {
+        QImageReader reader;
+        open(reader, mData->path);
+        reader.setScaledSize(pixels);
+        scaled = read(reader, mData->path);
+    } else if (mData->master.size() == pixels) {
+        return mData->master;
+    } else {
+        scaled = mData->master.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    if (scaled.sizeInBytes() <= bytesKeptScaled)
+        mData->latest = scaled;
+    return scaled;
+}
+
+} // namespace sheet

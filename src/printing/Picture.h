@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QSizeF>
+#include <QString>
+
+#include <memory>
+
+namespace sheet {
+
+/// A picture for the sheet: decoded once, at no more than the detail the printer can show, and scaled with
+/// prefiltering to whatever is painted. Cheap to copy; copies share the pixels.
+class Picture {
+public:
+    Picture() = default;
+
+    /// Reads a JPEG, BMP, GIF, PNG or SVG file (or resource) for a box of `box` twips.
+    /// A raster picture is decoded scaled, so that a huge one costs little memory; a vector picture is
+    /// rendered anew at each size. Raises FileNotFound for a missing file and InvalidPicture for one that
+    /// cannot be read.
+    static Picture fromFile(const QString& path, QSizeF box);
+
+    /// The picture's own size in pixels, from its header. Raises as fromFile.
+    static QSize ownSize(const QString& path);
+
+    bool isNull() const { return !mData; }
+
+    /// Memory its pixels take.
+    qsizetype bytes() const;
+
+    /// The picture stretched to `pixels`; the latest small result is kept, so that a repaint costs nothing.
+    QImage stretchedTo(QSize pixels) const;
+
+private:
+    struct Data;
+    std::shared_ptr<Data> mData;
+};
+
+/// What the program reports for a file that is no picture.
+inline constexpr int InvalidPicture = 481;
+
+} // namespace sheet

@@ -1,0 +1,32 @@
+#include "printing/PictureCache.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+namespace sheet {
+
+namespace {
+
+/// About eighteen figures at the printer's detail: two sheets.
+constexpr qsizetype kilobytesKept = 24 * 1024;
+
+} // namespace
+
+PictureCache::PictureCache() : mKept(kilobytesKept) {}
+
+Picture PictureCache::load(const QString& path, QSizeF box) {
+    const QFileInfo file(path);
+    const QString key = QStringLiteral("%1|%2|%3|%4x%5")
+                            .arg(path)
+                            .arg(file.size())
+                            .arg(file.lastModified().toMSecsSinceEpoch())
+                            .arg(box.width())
+                            .arg(box.height());
+    if (const Picture* known = mKept.object(key))
+        return *known;
+    Picture picture = Picture::fromFile(path, box);
+    mKept.insert(key, new Picture(picture), picture.bytes() / 1024 + 1);
+    return picture;
+}
+
+} // namespace sheet
