@@ -17,8 +17,8 @@ void addLogo(Surface& surface, const QString& name, QSizeF size, const QString& 
 } // namespace
 
 void addFixedLogos(Surface& surface) {
-    addLogo(surface, QStringLiteral("LogoZentara"), {1755, 540}, QStringLiteral(":/loghi/LogoZentara"));
-    addLogo(surface, QStringLiteral("logoQD"), {1350, 405}, QStringLiteral(":/loghi/logoQD"));
+    addLogo(surface, QStringLiteral("LogoZentara"), {1755, 540}, QStringLiteral(":/loghi/zentara.svg"));
+    addLogo(surface, QStringLiteral("logoQD"), {1350, 405}, QStringLiteral(":/loghi/quiverdeck.svg"));
 }
 
 } // namespace sheet

@@ -91,7 +91,7 @@ void Page::scriviEsercizioLibero(const Esercizio& esercizio, int index) {
     note.usableHeight = frame.top + frame.height - 90 - note.top;
 }
 
-void Page::scriviEsercizio(Esercizio& esercizio, int index) {
+void Page::scriviEsercizio(const Esercizio& esercizio, int index) {
     sheet::Element& picture = el("figura", index);
     canvas->load(picture, host::resolve(host::joined(QStringLiteral("\\") + esercizio.getFoto())));
     el("durata", index).text = esercizio.durata;

@@ -51,7 +51,7 @@ private:
     void nascondiRigheIntestazione();
     void caricaLogo();
     void scriviEsercizioLibero(const Esercizio& esercizio, int index);
-    void scriviEsercizio(Esercizio& esercizio, int index);
+    void scriviEsercizio(const Esercizio& esercizio, int index);
     bool mostraNote() const;
     sheet::Element& el(const char* name, int index = 0) const;
 };
