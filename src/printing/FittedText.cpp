@@ -160,7 +160,8 @@ void FittedText::cutLastLine() {
     while (!line.isEmpty() && widthOf(line + ellipsis) > room) {
         const qsizetype blank = line.lastIndexOf(u' ');
         // Whole words go first; a line of one word loses letters, never half a surrogate pair.
-        line.truncate(blank > 0 && mElement.wordWrap ? blank : line.size() - (line.back().isLowSurrogate() ? 2 : 1));
+        line.truncate(blank > 0 && mElement.wordWrap ? blank
+                                                     : line.size() - (line.back().isLowSurrogate() ? 2 : 1));
         line = trimmedEnd(line);
     }
     mLines.back() = line + ellipsis;
@@ -194,7 +195,8 @@ void FittedText::place() {
 QRectF FittedText::bounds() const {
     QRectF all;
     for (const Line& line : mPlaced)
-        all |= QRectF(mElement.left + line.at.x(), mElement.top + line.at.y(), line.width * mWidthScale, mLineHeight);
+        all |= QRectF(mElement.left + line.at.x(), mElement.top + line.at.y(), line.width * mWidthScale,
+                      mLineHeight);
     return all;
 }
 

@@ -1,24 +1,23 @@
 #pragma once
 
+#include "cards/Esercizio.h"
+#include "cards/scheda.h"
 #include "platform/runtime/Collection.h"
 #include "printing/PreviewWindow.h"
 
 #include <cstdint>
 #include <memory>
 
-class Esercizio;
-class scheda;
-
-/// One sheet of a card: fills the fixed elements of the preview's surface, hides those not needed and moves the
-/// rest. Composing rewrites the whole surface, so the order in which sheets are visited does not matter.
+/// One sheet of a card: fills the fixed elements of the preview's surface, hides those not needed and moves
+/// the rest. Composing rewrites the whole surface, so the order in which sheets are visited does not matter.
 /// Nothing is caught: a missing picture (FileNotFound) or an overflow reaches the caller.
 class Page {
 public:
     std::int32_t id_scheda = 0;
-    std::shared_ptr<::scheda> scheda;          ///< Shared by all sheets of the job; only read.
-    runtime::Collection<Esercizio> esercizi;   ///< 1 to 10, in card order.
-    bool isLastPage = false;                   ///< True only on the last sheet, the one with the final notes.
-    sheet::PreviewWindow* finestra = nullptr;  ///< Owner of the surface; set by setCanvas.
+    std::shared_ptr<::scheda> scheda;         ///< Shared by all sheets of the job; only read.
+    runtime::Collection<Esercizio> esercizi;  ///< 1 to 10, in card order.
+    bool isLastPage = false;                  ///< True only on the last sheet, the one with the final notes.
+    sheet::PreviewWindow* finestra = nullptr; ///< Owner of the surface; set by setCanvas.
     sheet::Surface* canvas = nullptr;
 
     /// Composes this sheet on the window's surface. Page number and producer line are left alone.

@@ -19,7 +19,8 @@ struct Row {
 };
 
 constexpr std::array rows{Row{"utente", "UtenteEti"}, Row{"Istruttore", "istruttoreEti"},
-                          Row{"Periodo", "periodoEti"}, Row{"FreqAllen", nullptr}, Row{"GGAllen", "GGAllenEti"}};
+                          Row{"Periodo", "periodoEti"}, Row{"FreqAllen", nullptr},
+                          Row{"GGAllen", "GGAllenEti"}};
 
 } // namespace
 
@@ -33,7 +34,8 @@ void Page::scriviIntestazione() {
 void Page::scriviTestiIntestazione() {
     el("utente").text = scheda->cognomeUtente + u' ' + scheda->nomeUtente;
     el("Istruttore").text = scheda->Istruttore;
-    el("FreqAllen").text = QStringLiteral("Frequenza di allenamento: %1 giorni la settimana").arg(int(scheda->FreqAllen));
+    el("FreqAllen").text =
+        QStringLiteral("Frequenza di allenamento: %1 giorni la settimana").arg(int(scheda->FreqAllen));
     el("GGAllen").text = GGAllenHELPER::descrizioneGGAllen(scheda->GGAllen);
     el("Periodo").text = scheda->PeriodoDal + QStringLiteral(" - ") + scheda->PeriodoAl;
     el("NoteFinali").text = scheda->note;

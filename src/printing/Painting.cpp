@@ -55,7 +55,8 @@ void paintRule(const Element& element, QPainter& painter) {
 
 void paint(const Surface& surface, QPainter& painter) {
     painter.save();
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                           QPainter::SmoothPixmapTransform);
     for (const Element& element : surface.elements()) {
         if (!element.visible)
             continue;

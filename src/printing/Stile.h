@@ -12,7 +12,8 @@ Font verdana(double points, bool bold = false);
 Font times(double points, bool bold = false, bool italic = false);
 
 /// A text box with its upper left corner and size in twips.
-Element textBox(const QString& name, int index, const QRectF& box, const Font& font, const QString& text = {});
+Element textBox(const QString& name, int index, const QRectF& box, const Font& font,
+                const QString& text = {});
 Element pictureBox(const QString& name, int index, const QRectF& box);
 Element roundedFrame(const QString& name, int index, const QRectF& box);
 /// A level rule of the given length, light grey, two logical pixels wide.

@@ -16,8 +16,8 @@ public:
     std::int32_t id_scheda = 0;
     runtime::Collection<Page> pages_; ///< In order, from 1.
 
-    /// Reads the card `id` (0: the one given before) and builds its sheets anew. A card without exercises gives
-    /// none.
+    /// Reads the card `id` (0: the one given before) and builds its sheets anew. A card without exercises
+    /// gives none.
     void createPages(std::int32_t id = 0);
 
     /// Writes the texts that stay the same on every sheet.

@@ -13,7 +13,9 @@ struct FinestraFinta final : sheet::PreviewWindow {
     double width() const override { return windowWidth; }
     void setFirstPanel(const QString& text) override { firstPanel = text; }
 
-    sheet::Element& el(const char* name, int index = 0) { return surface.element(QString::fromLatin1(name), index); }
+    sheet::Element& el(const char* name, int index = 0) {
+        return surface.element(QString::fromLatin1(name), index);
+    }
 
     /// Everything that shows, as text, to compare two compositions.
     QString shown() const {

@@ -46,13 +46,14 @@ void TestAvvertenze::places() {
         int index;
         QRectF box;
     };
-    // Footer: h is 15876; info at h - 570, the logos at h - 930 and h - 695, the warnings 1.5 heights from the foot.
+    // Footer: h is 15876; info at h - 570, the logos at h - 930 and h - 695, the warnings 1.5 heights from
+    // the foot.
     const Expected all[]{
-        {"UtenteEti", 0, {3030, 585, 5835, 375}},       {"Shape1", 0, {255, 1725, 5205, 2610}},
-        {"Shape2", 0, {5730, 2580, 4920, 2730}},        {"Shape3", 0, {300, 7680, 5145, 2460}},
-        {"Shape4", 0, {270, 4695, 5190, 2640}},         {"Shape5", 0, {5655, 5610, 4995, 2610}},
-        {"Image1", 1, {5865, 2565, 1755, 2895}},        {"Label1", 4, {2535, 7785, 3030, 2115}},
-        {"avvertenze", 0, {1065, 10858.5, 9645, 3345}}, {"info", 0, {8079.75, 15306, 2775, 285}},
+        {"UtenteEti", 0, {3030, 585, 5835, 375}},        {"Shape1", 0, {255, 1725, 5205, 2610}},
+        {"Shape2", 0, {5730, 2580, 4920, 2730}},         {"Shape3", 0, {300, 7680, 5145, 2460}},
+        {"Shape4", 0, {270, 4695, 5190, 2640}},          {"Shape5", 0, {5655, 5610, 4995, 2610}},
+        {"Image1", 1, {5865, 2565, 1755, 2895}},         {"Label1", 4, {2535, 7785, 3030, 2115}},
+        {"avvertenze", 0, {1065, 10858.5, 9645, 3345}},  {"info", 0, {8079.75, 15306, 2775, 285}},
         {"LogoZentara", 0, {9079.75, 14946, 1755, 540}}, {"logoQD", 0, {610.3, 15181, 1350, 405}},
     };
     for (const Expected& row : all) {

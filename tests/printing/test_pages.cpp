@@ -13,6 +13,7 @@ class TestPages : public QObject {
 
 private Q_SLOTS:
     void init() { mProgram = std::make_unique<ProgrammaDiProva>(); }
+    void cleanup() { mProgram.reset(); }
     void sheets_data();
     void sheets();
     void createAgain();
@@ -87,7 +88,7 @@ void TestPages::paging() {
     QCOMPARE(window.el("piepagina").text, QStringLiteral("Pagina 1/2"));
     QCOMPARE(window.el("nprog", 9).text, QStringLiteral("10"));
     QVERIFY(window.el("cornice", 9).visible);
-    QVERIFY_EXCEPTION_THROWN(job.PreviewPage(3), runtime::Error);
+    QVERIFY_THROWS_EXCEPTION(runtime::Error, job.PreviewPage(3));
     QCOMPARE(job.currentPage, std::int16_t(1));
 }
 

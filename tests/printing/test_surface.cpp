@@ -16,9 +16,9 @@ using namespace sheet;
 
 namespace {
 
-const QString longText =
-    QStringLiteral("Mantenere la schiena dritta, le ginocchia leggermente flesse e lo sguardo in avanti; respirare con "
-                   "regolarità e non irrigidire le spalle. Perché l'esercizio sia efficace, fermarsi al primo fastidio.");
+const QString longText = QStringLiteral(
+    "Mantenere la schiena dritta, le ginocchia leggermente flesse e lo sguardo in avanti; respirare con "
+    "regolarità e non irrigidire le spalle. Perché l'esercizio sia efficace, fermarsi al primo fastidio.");
 
 Element wrapped(const QString& text, QSizeF size = {2535, 480}) {
     Element element = textBox(QStringLiteral("t"), 0, QRectF({300, 300}, size), verdana(8.25), text);
@@ -67,7 +67,8 @@ void TestSurface::elements() {
     surface.element(QStringLiteral("sopra"), 3).visible = false;
     QCOMPARE(surface.elementAt({700, 700})->name, QStringLiteral("sotto"));
     QVERIFY(!surface.elementAt({1200, 1200}));
-    QCOMPARE(errorOf([&] { surface.element(QStringLiteral("sopra"), 0); }), int(runtime::SubscriptOutOfRange));
+    QCOMPARE(errorOf([&] { surface.element(QStringLiteral("sopra"), 0); }),
+             int(runtime::SubscriptOutOfRange));
     QCOMPARE(errorOf([&] { surface.add(roundedFrame(QStringLiteral("sotto"), 0, {})); }),
              int(runtime::InvalidPropertyValue));
 }
@@ -95,7 +96,8 @@ void TestSurface::fitSingle() {
     QTEST(fitted.sizeScale() < 1, "smaller");
     QTEST(fitted.isCut(), "cut");
     QVERIFY(fitted.widthScale() >= 0.85 && fitted.sizeScale() >= 0.6);
-    QVERIFY2(fitted.bounds().width() <= element.width + 2, qPrintable(QString::number(fitted.bounds().width())));
+    QVERIFY2(fitted.bounds().width() <= element.width + 2,
+             qPrintable(QString::number(fitted.bounds().width())));
 }
 
 void TestSurface::fitWrapped_data() {
@@ -105,8 +107,10 @@ void TestSurface::fitWrapped_data() {
     QTest::addColumn<bool>("cut");
     QTest::newRow("empty") << QString() << 1 << false << false;
     QTest::newRow("one line") << QStringLiteral("Modalità: Combinata") << 1 << false << false;
-    QTest::newRow("two lines") << QStringLiteral("Modalità: Dinamico a carico aggiuntivo 12 kg") << 2 << false << false;
-    QTest::newRow("a little long") << QStringLiteral("Modalità: Dinamico a carico aggiuntivo, con cintura zavorrata")
+    QTest::newRow("two lines") << QStringLiteral("Modalità: Dinamico a carico aggiuntivo 12 kg") << 2 << false
+                               << false;
+    QTest::newRow("a little long") << QStringLiteral(
+                                          "Modalità: Dinamico a carico aggiuntivo, con cintura zavorrata")
                                    << 2 << true << false;
     QTest::newRow("too long") << longText << 2 << true << true;
     QTest::newRow("too many lines") << QStringLiteral("uno\r\ndue\r\ntre\r\nquattro") << 2 << true << true;
@@ -182,8 +186,8 @@ void TestSurface::samePageAtEveryScale() {
     for (const int ratio : {2, 3, 4}) {
         QImage finer = raster(surface, ratio);
         finer.setDevicePixelRatio(1);
-        const QImage reduced =
-            finer.scaled(once.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(once.format());
+        const QImage reduced = finer.scaled(once.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                   .convertToFormat(once.format());
         const double difference = disegni::greatestBlockDifference(once, reduced, 12);
         QVERIFY2(difference < 12, qPrintable(QStringLiteral("ratio %1: %2").arg(ratio).arg(difference)));
     }
