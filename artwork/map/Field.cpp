@@ -1,0 +1,68 @@
+#include "Field.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPainterPathStroker>
+
+#include <algorithm>
+
+Field Field::coverage(const QPainterPath& path, const QTransform& toPixels, int margin) {
+    const QPainterPath mapped = toPixels.map(path);
+    const QRect area = mapped.boundingRect().toAlignedRect().adjusted(-margin, -margin, margin, margin);
+    QImage mask(area.size(), QImage::Format_Grayscale8);
+    mask.fill(Qt::black);
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-area.topLeft());
+    painter.fillPath(mapped, Qt::white);
+    painter.end();
+    Field field(area);
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        const uchar* row = mask.constScanLine(y - area.top());
+        for (int x = area.left(); x <= area.right(); ++x)
+            field.at(x, y) = static_cast<float>(row[x - area.left()]) / 255.0F;
+    }
+    return field;
+}
+
+Field Field::line(const QPainterPath& path, double width, const QTransform& toPixels, int margin) {
+    QPainterPathStroker stroker;
+    stroker.setWidth(width);
+    stroker.setCapStyle(Qt::RoundCap);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    QPainterPath outline = stroker.createStroke(path);
+    outline.setFillRule(Qt::WindingFill);
+    return coverage(outline, toPixels, margin);
+}
+
+Field Field::blurred(int radius) const {
+    Field result = *this;
+    for (int pass = 0; pass < 3; ++pass) {
+        result.blurLines(radius, true);
+        result.blurLines(radius, false);
+    }
+    return result;
+}
+
+void Field::blurLines(int radius, bool across) {
+    const int lines = across ? area_.height() : area_.width();
+    const int length = across ? area_.width() : area_.height();
+    const size_t step = across ? 1 : static_cast<size_t>(area_.width());
+    const float share = 1.0F / static_cast<float>(2 * radius + 1);
+    std::vector<float> source(static_cast<size_t>(length));
+    for (int line = 0; line < lines; ++line) {
+        const size_t first = across ? static_cast<size_t>(line) * area_.width() : static_cast<size_t>(line);
+        for (int i = 0; i < length; ++i)
+            source[static_cast<size_t>(i)] = values_[first + step * i];
+        float sum = 0;
+        for (int i = 0; i < std::min(radius, length); ++i)
+            sum += source[static_cast<size_t>(i)];
+        for (int i = 0; i < length; ++i) {
+            if (i + radius < length)
+                sum += source[static_cast<size_t>(i + radius)];
+            if (i - radius - 1 >= 0)
+                sum -= source[static_cast<size_t>(i - radius - 1)];
+            values_[first + step * i] = std::max(0.0F, sum * share); // rounding may leave the sum below 0
+        }
+    }
+}
