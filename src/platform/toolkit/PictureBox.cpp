@@ -97,8 +97,13 @@ void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
+bool PictureBox::takes(const QDropEvent& event) const {
+    return event.mimeData()->hasText() && (event.possibleActions() & Qt::CopyAction) &&
+           (!fits_ || fits_(event.mimeData()->text()));
+}
+
 void PictureBox::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasText() && (event->possibleActions() & Qt::CopyAction)) {
+    if (takes(*event)) {
         event->setDropAction(Qt::CopyAction);
         event->accept();
         dropHint_ = true;
@@ -122,7 +127,7 @@ void PictureBox::dragLeaveEvent(QDragLeaveEvent* event) {
 void PictureBox::dropEvent(QDropEvent* event) {
     dropHint_ = false;
     update();
-    if (!event->mimeData()->hasText()) {
+    if (!takes(*event)) {
         event->ignore();
         return;
     }

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QImage>
 #include <QPixmap>
+#include <functional>
 
 namespace toolkit {
 
@@ -29,6 +30,8 @@ public:
 
     /// Text can be dropped here: `dropped` tells it. Off at first.
     void setDropTarget(bool accepts) { setAcceptDrops(accepts); }
+    /// Takes only texts that `fits` agrees to; others are refused as soon as they are dragged in.
+    void setDropFilter(std::function<bool(const QString& text)> fits) { fits_ = std::move(fits); }
 
     // host::Box; twips
     double left() const override;
@@ -55,9 +58,12 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    bool takes(const QDropEvent& event) const;
+
     QImage image_;
     QSize ownSize_;  ///< of the file, in pixels; image_ may be smaller
     QPixmap scaled_; ///< image_ as last painted
+    std::function<bool(const QString&)> fits_;
     bool dropHint_ = false;
 };
 
