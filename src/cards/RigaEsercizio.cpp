@@ -1,0 +1,251 @@
+#include "cards/RigaEsercizio.h"
+
+#include "artwork/icons/Icone.h"
+#include "cards/Esercizio.h"
+#include "figures/figura.h"
+#include "platform/host/ProgramDirectory.h"
+#include "platform/runtime/Conversions.h"
+#include "platform/toolkit/Twips.h"
+#include "printing/PictureCache.h"
+
+using toolkit::place;
+
+namespace {
+
+const QString chiaveFigura = QStringLiteral("quiverdeck");
+const QString chiaveLibero = QStringLiteral("libero");
+
+/// The picture's place, in twips.
+constexpr QSizeF quadroFigura{2265, 2160};
+
+/// What stands at other coordinates in the second row than in the first.
+struct Posto {
+    double sinistra, eti, numero, inserisci, elimina, tipo, sopra, sopraEti, sopraPulsanti, sopraTipo, figura;
+};
+constexpr std::array<Posto, 2> posti{Posto{15, 45, 1365, 1620, 1950, 3975, 210, 0, 0, -15, 135},
+                                     Posto{30, 60, 1395, 1650, 1980, 3990, 2955, 2745, 2730, 2715, 120}};
+
+QString nome(const char* controllo, int indice) {
+    return QStringLiteral("%1_%2").arg(QLatin1String(controllo)).arg(indice);
+}
+
+} // namespace
+
+RigaEsercizio::RigaEsercizio(int indice, int righe, QWidget* pagina, sheet::PictureCache& immagini)
+    : Frame1(nome("Frame1", indice), pagina), FrameLibero(nome("FrameLibero", indice), pagina),
+      Label8(nome("Label8", indice), QStringLiteral("Esercizio n. "), pagina),
+      nEsercizio(nome("nEsercizio", indice), QString::number(indice + 1), pagina),
+      InserisciEsecizio(nome("InserisciEsecizio", indice), QString(), pagina),
+      EliminaEsercizio(nome("EliminaEsercizio", indice), QString(), pagina),
+      TipoEsercizio(nome("TipoEsercizio", indice), pagina),
+      invito(nome("invito", indice), QStringLiteral("Trascinare qui l'immagine dell'esercizio"), &Frame1),
+      etiDurata(nome("etiDurata", indice), QStringLiteral("Durata:"), &Frame1),
+      etiFrequenza(nome("etiFrequenza", indice), QStringLiteral("Frequenza: "), &Frame1),
+      etiAmpiezza(nome("etiAmpiezza", indice), QStringLiteral("Ampiezza: "), &Frame1),
+      etiSerie(nome("etiSerie", indice), QStringLiteral("Serie:"), &Frame1),
+      etiRecupero(nome("etiRecupero", indice), QStringLiteral("Recupero: "), &Frame1),
+      etiMin(nome("etiMin", indice), QStringLiteral("min"), &Frame1),
+      etiSec(nome("etiSec", indice), QStringLiteral("sec"), &Frame1),
+      etiModalita(nome("etiModalita", indice), QStringLiteral("Modalità:"), &Frame1),
+      etiPeso(nome("etiPeso", indice), QStringLiteral("Peso:"), &Frame1),
+      etiNote(nome("etiNote", indice), QStringLiteral("Note: "), &Frame1),
+      etiDescrizione(nome("etiDescrizione", indice), QStringLiteral("Descrizione:"), &FrameLibero),
+      figura(nome("figura", indice), &Frame1), durata(nome("durata", indice), &Frame1),
+      frequenza(nome("frequenza", indice), &Frame1), ampiezza(nome("ampiezza", indice), &Frame1),
+      serie(nome("serie", indice), &Frame1), recuperoMin(nome("recuperoMin", indice), &Frame1),
+      recuperoSec(nome("recuperoSec", indice), &Frame1), modalita(nome("modalita", indice), &Frame1),
+      peso(nome("peso", indice), &Frame1), note(nome("note", indice), &Frame1),
+      noteLibere(nome("note", indice + righe), &FrameLibero), immagini_(immagini) {
+    durata.addItems({QStringLiteral("30s"), QStringLiteral("45s"), QStringLiteral("60s")});
+    frequenza.addItems(
+        {QStringLiteral("30Hz"), QStringLiteral("35Hz"), QStringLiteral("40Hz"), QStringLiteral("50Hz")});
+    ampiezza.addItems({QStringLiteral("L"), QStringLiteral("H")});
+    modalita.addItems({QStringLiteral("Statico a carico naturale"),
+                       QStringLiteral("Statico a carico aggiuntivo"),
+                       QStringLiteral("Dinamico a carico naturale"),
+                       QStringLiteral("Dinamico a carico aggiuntivo"), QStringLiteral("Combinata")});
+    // These texts go into SQL as they stand.
+    for (toolkit::Combo* elenco : elenchi()) {
+        elenco->guardApostrophes();
+    }
+    peso.guardApostrophes();
+    for (toolkit::TextBox* numero : numeri()) {
+        numero->setKeyFilter([](QChar tasto) {
+            return tasto == QChar(3) || tasto == QChar(8) || (tasto >= u'0' && tasto <= u'9');
+        });
+    }
+    const QString tip = QStringLiteral("Scegli il tipo di esercizio");
+    TipoEsercizio.addTab(chiaveFigura, QStringLiteral("Quiver-Deck"), tip);
+    TipoEsercizio.addTab(chiaveLibero, QStringLiteral("Libero"), tip);
+    invito.setWordWrap(true);
+    invito.setAlignment(Qt::AlignCenter);
+    figura.setDropTarget(true);
+    figura.setDropFilter([](const QString& testo) {
+        bool numero = false;
+        testo.trimmed().toInt(&numero);
+        return numero;
+    });
+    FrameLibero.hide();
+    disponi(indice);
+    nomina(indice);
+}
+
+void RigaEsercizio::disponi(int indice) {
+    const Posto& p = posti.at(static_cast<std::size_t>(indice));
+    place(Label8, p.eti, p.sopraEti, 1455, 255);
+    place(nEsercizio, p.numero, p.sopraEti, indice == 0 ? 345 : 255, 255);
+    place(InserisciEsecizio, p.inserisci, p.sopraPulsanti, 330, 285);
+    place(EliminaEsercizio, p.elimina, p.sopraPulsanti, 330, 285);
+    place(TipoEsercizio, p.tipo, p.sopraTipo, 1965, 315);
+    place(Frame1, p.sinistra, p.sopra, 5925, 2520);
+    place(FrameLibero, p.sinistra, p.sopra, 5925, 2520);
+
+    place(figura, p.figura, 240, quadroFigura.width(), quadroFigura.height());
+    place(invito, 150, 1095, 2190, 675);
+    constexpr double prima = 2580; // the two columns of captions
+    constexpr double seconda = 4185;
+    const auto didascalia = [](toolkit::Label& etichetta, double sinistra, double sopra) {
+        place(etichetta, sinistra, sopra, 975, 255);
+    };
+    didascalia(etiDurata, prima, 255);
+    place(durata, 3360, 225, 735, 315);
+    didascalia(etiFrequenza, seconda, 255);
+    place(frequenza, 5115, 225, 735, 315);
+    didascalia(etiAmpiezza, prima, 570);
+    place(ampiezza, 3360, 540, 735, 315);
+    didascalia(etiSerie, seconda, 570);
+    place(serie, 5115, 555, 720, 285);
+    didascalia(etiRecupero, prima, 885);
+    place(recuperoMin, 3360, 870, 390, 285);
+    place(etiMin, 3795, 885, 240, 255);
+    place(recuperoSec, 4050, 870, 390, 285);
+    place(etiSec, 4455, 885, 240, 255);
+    didascalia(etiModalita, prima, 1200);
+    place(modalita, 3360, 1170, 2490, 315);
+    didascalia(etiPeso, prima, 1515);
+    place(peso, 3360, 1500, 735, 285);
+    didascalia(etiNote, prima, 1830);
+    place(note, 3360, 1815, 2505, 615);
+
+    place(etiDescrizione, 60, 165, 1815, 255);
+    place(noteLibere, 90, 405, 5760, 1995);
+}
+
+void RigaEsercizio::nomina(int indice) {
+    const auto pulsante = [](toolkit::Button& b, const QString& tip, const QString& chiave) {
+        b.setToolTip(tip);
+        b.setAccessibleName(tip);
+        b.setPicture(artwork::icona(QStringLiteral("SchedaCorpo"), chiave));
+    };
+    pulsante(InserisciEsecizio, QStringLiteral("Inserisce un esercizio in questo punto"),
+             QStringLiteral("InserisciEsecizio"));
+    pulsante(EliminaEsercizio, QStringLiteral("Elimina l'esercizio"), QStringLiteral("EliminaEsercizio"));
+    const QString riga = QStringLiteral(", riga %1").arg(indice + 1);
+    TipoEsercizio.setAccessibleName(QStringLiteral("Tipo di esercizio") + riga);
+    figura.setAccessibleName(QStringLiteral("Figura dell’esercizio") + riga);
+    durata.setAccessibleName(QStringLiteral("Durata") + riga);
+    frequenza.setAccessibleName(QStringLiteral("Frequenza") + riga);
+    ampiezza.setAccessibleName(QStringLiteral("Ampiezza") + riga);
+    serie.setAccessibleName(QStringLiteral("Serie") + riga);
+    recuperoMin.setAccessibleName(QStringLiteral("Minuti di recupero") + riga);
+    recuperoSec.setAccessibleName(QStringLiteral("Secondi di recupero") + riga);
+    modalita.setAccessibleName(QStringLiteral("Modalità") + riga);
+    peso.setAccessibleName(QStringLiteral("Peso") + riga);
+    note.setAccessibleName(QStringLiteral("Note") + riga);
+    noteLibere.setAccessibleName(QStringLiteral("Descrizione") + riga);
+}
+
+std::array<QWidget*, 13> RigaEsercizio::ordine() {
+    return {&InserisciEsecizio, &EliminaEsercizio, &TipoEsercizio, &durata, &frequenza, &ampiezza,  &serie,
+            &recuperoMin,       &recuperoSec,      &modalita,      &peso,   &note,      &noteLibere};
+}
+
+bool RigaEsercizio::isLibero() const {
+    return TipoEsercizio.selectedKey() == chiaveLibero;
+}
+
+void RigaEsercizio::mostraTipo() {
+    Frame1.setVisible(!isLibero());
+    FrameLibero.setVisible(isLibero());
+}
+
+void RigaEsercizio::mostra(const Esercizio& e) {
+    durata.setText(e.durata);
+    frequenza.setText(e.frequenza);
+    ampiezza.setText(e.ampiezza);
+    recuperoMin.setText(QString::number(e.recuperoMin));
+    recuperoSec.setText(QString::number(e.recuperoSec));
+    modalita.setText(e.modalita);
+    serie.setText(QString::number(e.serie));
+    peso.setText(e.peso);
+    note.setText(e.note);
+    noteLibere.setText(e.note);
+    if (e.id_fig != 0) {
+        caricaFigura(e.id_fig);
+        figura.Tag = QString::number(e.id_fig);
+    } else {
+        svuotaFigura();
+    }
+}
+
+void RigaEsercizio::scrivi(Esercizio& e) {
+    e.durata = durata.text();
+    e.frequenza = frequenza.text();
+    e.ampiezza = ampiezza.text();
+    e.recuperoMin = runtime::toByte(runtime::leadingNumber(recuperoMin.text()));
+    e.recuperoSec = runtime::toByte(runtime::leadingNumber(recuperoSec.text()));
+    e.modalita = modalita.text();
+    e.serie = runtime::toByte(runtime::leadingNumber(serie.text()));
+    e.peso = peso.text();
+    e.note = note.text();
+    e.isLibero = isLibero();
+    if (e.isLibero) {
+        e.note = noteLibere.text();
+    }
+    if (!figura.Tag.isEmpty()) {
+        e.id_fig = runtime::toInt32(runtime::leadingNumber(figura.Tag));
+        caricaFigura(e.id_fig);
+    }
+}
+
+void RigaEsercizio::normalizza() {
+    for (toolkit::Combo* elenco : elenchi()) {
+        if (elenco->text().isEmpty()) {
+            elenco->selectIndex(0);
+        }
+    }
+    for (toolkit::TextBox* numero : numeri()) {
+        if (numero->text().isEmpty()) {
+            numero->setText(QStringLiteral("0"));
+        }
+    }
+    if (figura.Tag.isEmpty()) {
+        svuotaFigura();
+    }
+}
+
+void RigaEsercizio::prendiFigura(const QString& testo) {
+    figura.Tag = testo;
+    const qint32 chiave = runtime::toInt32(runtime::leadingNumber(testo));
+    figura.clear();
+    caricaFigura(chiave);
+}
+
+void RigaEsercizio::svuotaFigura() {
+    if (!figura.isEmpty()) {
+        figura.clear();
+    }
+    figura.Tag.clear();
+}
+
+void RigaEsercizio::caricaFigura(qint32 id_fig) {
+    ::figura f;
+    f.carica(id_fig);
+    const sheet::Picture picture = immagini_.load(host::resolve(f.figura_()), quadroFigura);
+    const QSize pixels = (QSizeF(figura.size()) * figura.devicePixelRatioF()).toSize();
+    const QImage image = picture.stretchedTo(pixels);
+    // The row is written at each key: a picture that shows already is not drawn anew.
+    if (image.cacheKey() != figura.image().cacheKey()) {
+        figura.setImage(image);
+    }
+}

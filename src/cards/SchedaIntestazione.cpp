@@ -1,0 +1,264 @@
+#include "cards/SchedaIntestazione.h"
+
+#include "artwork/icons/Icone.h"
+#include "athletes/utente.h"
+#include "cards/GGAllenHELPER.h"
+#include "cards/mdiScheda.h"
+#include "cards/scheda.h"
+#include "core/f_library.h"
+#include "platform/host/Services.h"
+#include "platform/runtime/Conversions.h"
+#include "platform/runtime/Dates.h"
+#include "platform/runtime/Error.h"
+#include "platform/toolkit/Fonts.h"
+#include "platform/toolkit/Twips.h"
+#include "platform/toolkit/Validation.h"
+#include "templates/Categorie.h"
+
+#include <array>
+#include <utility>
+
+using toolkit::place;
+
+namespace {
+
+constexpr double larghezza = 6300; // outer size, twips
+constexpr double altezza = 3505;
+
+/// A new card runs for three weeks and three sessions a week.
+constexpr int giorniDiPeriodo = 21;
+const QString frequenzaUsuale = QStringLiteral("3");
+constexpr int categoriaUsuale = 1; // second of the list
+
+const QString valoreFuoriLista = QStringLiteral("Selezionare un valore tra quelli disponibili!");
+
+} // namespace
+
+SchedaIntestazione::SchedaIntestazione()
+    : Form(QStringLiteral("SchedaIntestazione")), Frame1(QStringLiteral("Frame1"), client()),
+      atleta(QStringLiteral("atleta"), QStringLiteral("Atleta:"), &Frame1),
+      intestazione(QStringLiteral("intestazione"), QStringLiteral("Scheda:"), &Frame1),
+      etiCategoria(QStringLiteral("etiCategoria"), QStringLiteral("Categoria:"), &Frame1),
+      etiObiettivo(QStringLiteral("etiObiettivo"), QStringLiteral("Obiettivo:"), &Frame1),
+      etiIstruttore(QStringLiteral("etiIstruttore"), QStringLiteral("Istruttore:"), &Frame1),
+      etiDal(QStringLiteral("etiDal"), QStringLiteral("Dal:"), &Frame1),
+      etiAl(QStringLiteral("etiAl"), QStringLiteral("Al:"), &Frame1),
+      etiFreqAllen(QStringLiteral("etiFreqAllen"), QStringLiteral("Frequenza allenamento settimanale:"),
+                   &Frame1),
+      etiGGAllen(QStringLiteral("etiGGAllen"), QStringLiteral("Giorni di allenamento:"), &Frame1),
+      etiNote(QStringLiteral("etiNote"), QStringLiteral("Note Finali:"), &Frame1),
+      utente(QStringLiteral("utente"), QString(), &Frame1), categoria(QStringLiteral("categoria"), &Frame1),
+      Obiettivo(QStringLiteral("Obiettivo"), &Frame1), Istruttore(QStringLiteral("Istruttore"), &Frame1),
+      dal(QStringLiteral("dal"), &Frame1), al(QStringLiteral("al"), &Frame1),
+      FreqAllen(QStringLiteral("FreqAllen"), &Frame1), Text1(QStringLiteral("Text1"), &Frame1),
+      apriGGAllen(QStringLiteral("apriGGAllen"), QString(), &Frame1), note(QStringLiteral("note"), &Frame1),
+      GGAllen(QStringLiteral("GGAllen"), &Frame1) {
+    setCaption(QStringLiteral("Scheda"));
+    setParentForm(mdiScheda::comune());
+    disponi();
+    prepara();
+    ordina();
+    collega();
+    controlla();
+}
+
+void SchedaIntestazione::disponi() {
+    place(Frame1, 60, 0, 6075, 3000);
+    place(atleta, 120, 225, 855, 255);
+    place(utente, 1260, 210, 2760, 255);
+    place(intestazione, 120, 480, 1095, 255);
+    place(etiCategoria, 240, 885, 960, 255);
+    place(categoria, 1215, 840, 2820, 315);
+    place(etiObiettivo, 240, 1185, 960, 255);
+    place(Obiettivo, 1215, 1155, 2820, 285);
+    place(etiIstruttore, 240, 1470, 960, 255);
+    place(Istruttore, 1215, 1440, 2820, 285);
+    place(etiDal, 4155, 900, 345, 255);
+    place(dal, 4515, 855, 1290, 315);
+    place(etiAl, 4155, 1215, 345, 255);
+    place(al, 4515, 1170, 1290, 315);
+    place(etiFreqAllen, 240, 1785, 3060, 255);
+    place(FreqAllen, 3315, 1740, 720, 315);
+    place(etiGGAllen, 240, 2100, 1905, 255);
+    place(Text1, 2160, 2070, 1605, 285);
+    place(apriGGAllen, 3765, 2085, 270, 255);
+    place(etiNote, 240, 2385, 1125, 255);
+    place(note, 1380, 2355, 4440, 585);
+    place(GGAllen, 2160, 15, 1845, 2085);
+}
+
+void SchedaIntestazione::prepara() {
+    atleta.setFont(toolkit::font(QStringLiteral("MS Sans Serif"), 8.25, true));
+    intestazione.setFont(atleta.font());
+    utente.setBackgroundRole(QPalette::Base);
+    utente.setAutoFillBackground(true);
+    Obiettivo.guardApostrophes();
+    Istruttore.guardApostrophes();
+    for (int volte = 1; volte <= 7; ++volte) {
+        FreqAllen.addItem(QString::number(volte));
+    }
+    Text1.setText(QStringLiteral("Selezionare i giorni..."));
+    Text1.setReadOnly(true);
+    Text1.setFocusPolicy(Qt::NoFocus);
+    apriGGAllen.setPicture(artwork::icona(objectName(), apriGGAllen.objectName()));
+    apriGGAllen.setToolTip(QStringLiteral("Giorni di allenamento"));
+    for (const char* giorno : {"Giornaliero", "Nessuno", "Lunedi", "Martedi", "Mercoledi", "Giovedi",
+                               "Venerdi", "Sabato", "Domenica"}) {
+        GGAllen.addItem(QLatin1String(giorno));
+    }
+    GGAllen.hide();
+}
+
+void SchedaIntestazione::ordina() {
+    const std::array<std::pair<QWidget*, const char*>, 9> campi{
+        {{&categoria, "Categoria"},
+         {&Obiettivo, "Obiettivo"},
+         {&Istruttore, "Istruttore"},
+         {&dal, "Dal"},
+         {&al, "Al"},
+         {&FreqAllen, "Frequenza allenamento settimanale"},
+         {&apriGGAllen, "Giorni di allenamento"},
+         {&GGAllen, "Elenco dei giorni di allenamento"},
+         {&note, "Note finali"}}};
+    QWidget* precedente = nullptr;
+    for (const auto& [campo, nome] : campi) {
+        campo->setAccessibleName(QLatin1String(nome));
+        if (precedente != nullptr) {
+            setTabOrder(precedente, campo);
+        }
+        precedente = campo;
+    }
+}
+
+void SchedaIntestazione::collega() {
+    connect(&Istruttore, &toolkit::TextBox::changed, this, [this] {
+        aperta().Istruttore = Istruttore.text();
+        aperta().isSaved = false;
+    });
+    connect(&Obiettivo, &toolkit::TextBox::changed, this, [this] {
+        aperta().Obiettivo = Obiettivo.text();
+        aperta().isSaved = false;
+    });
+    connect(&note, &toolkit::TextArea::changed, this, [this] {
+        aperta().note = note.text();
+        aperta().isSaved = false;
+    });
+    connect(&FreqAllen, &toolkit::Combo::changed, this, &SchedaIntestazione::scriviFrequenza);
+    connect(&FreqAllen, &toolkit::Combo::clicked, this, &SchedaIntestazione::scriviFrequenza);
+    connect(&categoria, &toolkit::Combo::clicked, this, &SchedaIntestazione::scriviCategoria);
+    connect(&dal, &toolkit::DatePicker::changed, this, &SchedaIntestazione::scriviDal);
+    connect(&al, &toolkit::DatePicker::changed, this, &SchedaIntestazione::scriviAl);
+    connect(&GGAllen, &toolkit::CheckListBox::itemClick, this, [this] {
+        aperta().GGAllen = GGAllenHELPER::leggiGGAllen(GGAllen);
+        aperta().isSaved = false;
+    });
+    connect(&apriGGAllen, &QPushButton::clicked, this, &SchedaIntestazione::apriChiudiGiorni);
+
+    // `al` and `FreqAllen` leave the list of days open.
+    connect(&categoria, &toolkit::Combo::gotFocus, this, &SchedaIntestazione::nascondiTutto);
+    connect(&Istruttore, &toolkit::TextBox::gotFocus, this, &SchedaIntestazione::nascondiTutto);
+    connect(&Obiettivo, &toolkit::TextBox::gotFocus, this, &SchedaIntestazione::nascondiTutto);
+    connect(&note, &toolkit::TextArea::gotFocus, this, &SchedaIntestazione::nascondiTutto);
+    connect(&dal, &toolkit::DatePicker::gotFocus, this, &SchedaIntestazione::nascondiTutto);
+}
+
+void SchedaIntestazione::controlla() {
+    auto* validazione = new toolkit::Validation(this);
+    for (toolkit::Combo* elenco : {&categoria, &FreqAllen}) {
+        validazione->add(elenco, [elenco] {
+            if (!nonInLista(*elenco)) {
+                return true;
+            }
+            host::message(valoreFuoriLista, host::Icon::Critical);
+            return false;
+        });
+    }
+}
+
+::scheda& SchedaIntestazione::aperta() {
+    auto* scheda = dynamic_cast<::scheda*>(mdiScheda::comune().schedaAperta.get());
+    if (scheda == nullptr) {
+        runtime::raise(runtime::ObjectNotSet);
+    }
+    return *scheda;
+}
+
+void SchedaIntestazione::onLoad() {
+    setOuterSize(larghezza, altezza);
+    const ::utente& atletaAperto = *mdiScheda::comune().utente;
+    utente.setCaption(atletaAperto.cognome + u' ' + atletaAperto.nome);
+    Categorie().fillcategorie(categoria);
+    Istruttore.setText(aperta().Istruttore);
+    categoria.setText(aperta().categoria);
+    caricaPeriodo();
+    Obiettivo.setText(aperta().Obiettivo);
+    caricaFrequenza();
+    GGAllenHELPER::scriviGGAllen(aperta().GGAllen, GGAllen);
+    note.setText(aperta().note);
+    if (categoria.text().isEmpty()) {
+        categoria.selectIndex(categoriaUsuale);
+    }
+}
+
+void SchedaIntestazione::caricaPeriodo() {
+    const QDate oggi = runtime::today();
+    if (!aperta().PeriodoDal.isEmpty()) {
+        dal.setValue(runtime::textToDate(aperta().PeriodoDal));
+    } else {
+        dal.setValue(oggi);
+        scriviDal(); // a picker that showed today already tells of no change
+    }
+    if (!aperta().PeriodoAl.isEmpty()) {
+        al.setValue(runtime::textToDate(aperta().PeriodoAl));
+    } else {
+        al.setValue(oggi.addDays(giorniDiPeriodo));
+        scriviAl();
+    }
+}
+
+void SchedaIntestazione::caricaFrequenza() {
+    FreqAllen.setText(QString::number(aperta().FreqAllen));
+    if (runtime::strictNumber(FreqAllen.text()) == 0) {
+        FreqAllen.setText(frequenzaUsuale);
+    }
+}
+
+bool SchedaIntestazione::onQueryUnload() {
+    return mdiScheda::comune().puoiChiudere;
+}
+
+void SchedaIntestazione::nascondiTutto() {
+    GGAllen.hide();
+}
+
+void SchedaIntestazione::apriChiudiGiorni() {
+    if (GGAllen.isVisible()) {
+        GGAllen.hide();
+    } else {
+        GGAllen.show();
+        GGAllen.raise();
+    }
+}
+
+void SchedaIntestazione::scriviDal() {
+    aperta().PeriodoDal = runtime::dateText(dal.value());
+    aperta().isSaved = false;
+}
+
+void SchedaIntestazione::scriviAl() {
+    aperta().PeriodoAl = runtime::dateText(al.value());
+    aperta().isSaved = false;
+}
+
+/// A text that is no whole number from 0 to 255 leaves the record's value; the check refuses it on leaving.
+void SchedaIntestazione::scriviFrequenza() {
+    if (const auto volte = runtime::wholeByte(FreqAllen.text())) {
+        aperta().FreqAllen = *volte;
+    }
+    aperta().isSaved = false;
+}
+
+void SchedaIntestazione::scriviCategoria() {
+    aperta().categoria = categoria.text();
+    aperta().isSaved = false;
+}

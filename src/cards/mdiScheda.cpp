@@ -1,0 +1,267 @@
+#include "cards/mdiScheda.h"
+
+#include "artwork/icons/Icone.h"
+#include "athletes/utente.h"
+#include "cards/FinestreCollegate.h"
+#include "cards/SchedaCorpo.h"
+#include "cards/SchedaIntestazione.h"
+#include "cards/salvaComeModello.h"
+#include "cards/scheda.h"
+#include "core/db.h"
+#include "core/variabiliGlobali.h"
+#include "figures/figura.h"
+#include "platform/host/ProgramDirectory.h"
+#include "platform/host/Services.h"
+#include "platform/runtime/Conversions.h"
+#include "platform/runtime/Dates.h"
+#include "printing/ContatoreTempi.h"
+#include "templates/SchedaModello.h"
+
+using namespace variabiliGlobali;
+
+namespace {
+
+const QString cartella = QStringLiteral("Cartella");
+constexpr QSize latoCartella{25, 25}; // pixels
+constexpr QSize latoFigura{150, 150};
+constexpr QSize latoPulsante{24, 24};
+
+// Positions on the toolbar.
+constexpr int pulsanteSalva = 1;
+constexpr int pulsanteSalvaSuModello = 2;
+constexpr int pulsanteStampa = 4;
+
+void informa(const QString& testo) {
+    host::message(testo, host::Icon::Information);
+}
+
+} // namespace
+
+mdiScheda::mdiScheda()
+    : ParentForm(QStringLiteral("mdiScheda")), utente(std::make_shared<::utente>()),
+      ToolbarSchede(QStringLiteral("ToolbarSchede"), this), StatusBar1(QStringLiteral("StatusBar1"), this) {
+    setCaption(QStringLiteral(" Zentara"));
+    setResizable(true);
+    ToolbarSchede.addButton(QStringLiteral("salva"), QStringLiteral("Salva"),
+                            QStringLiteral("Salva in archivio la scheda corrente"));
+    ToolbarSchede.addButton(QStringLiteral("SalvaSuModello"), QStringLiteral("Salva su nuovo Modello"),
+                            QStringLiteral("Salva la scheda corrente come Modello"));
+    ToolbarSchede.addSeparator();
+    ToolbarSchede.addButton(QStringLiteral("stampa"), QStringLiteral("Stampa"),
+                            QStringLiteral("Anteprima di stampa"));
+    ToolbarSchede.addSeparator();
+    ToolbarSchede.addButton(QStringLiteral("fine"), QStringLiteral("Fine"),
+                            QStringLiteral("Esce dall'inserimento/modifica Schede"));
+    connect(&ToolbarSchede, &toolkit::Toolbar::buttonClick, this, &mdiScheda::premuto);
+    addTopBar(&ToolbarSchede);
+    StatusBar1.addPanel(QStringLiteral("status"));
+    StatusBar1.addPanel(QStringLiteral("date2"), 1050, Qt::AlignRight);
+    addBottomBar(&StatusBar1);
+}
+
+mdiScheda::~mdiScheda() = default;
+
+void mdiScheda::onLoad() {
+    ImageListToolBar.setImageSize(latoPulsante);
+    for (int i = 1; i <= ToolbarSchede.count(); ++i) {
+        if (!ToolbarSchede.isSeparator(i)) {
+            const QString chiave = ToolbarSchede.key(i);
+            ImageListToolBar.add(chiave, artwork::icona(QStringLiteral("mdiScheda"), chiave));
+        }
+    }
+    ToolbarSchede.setImageList(&ImageListToolBar);
+    toolkit::assegnaImmaginiToolbar(ToolbarSchede);
+    caricaImmagini();
+    setMaximised(true);
+}
+
+void mdiScheda::caricaImmagini() {
+    ImageList1.clear();
+    ImageList1.setImageSize(latoCartella);
+    ImageList1.add(cartella, host::joined(QStringLiteral("\\images\\FolderXP.JPG")));
+    ImageList2.clear();
+    ImageList2.setImageSize(latoFigura);
+    store::Recordset righe = db::comune().getRs(QStringLiteral("SELECT ID_FIG from figure"));
+    finestre::avanzamentoMassimo(runtime::toInt16(righe.RecordCount() + 1));
+    for (; !righe.EOF_(); righe.MoveNext()) {
+        ::figura f;
+        f.carica(righe(u"ID_FIG").toInt32());
+        if (!ImageList2.contains(f.figura_())) { // two figures may share a file
+            ImageList2.add(f.figura_(), f.figura_());
+        }
+        finestre::avanzamentoPasso();
+    }
+}
+
+void mdiScheda::mostra() {
+    ToolbarSchede.setVisible(true);
+    if (idUtenteSelezionato != 0) {
+        utente->carica(idUtenteSelezionato);
+    }
+    schedaAperta.reset();
+    ToolbarSchede.setButtonEnabled(pulsanteSalva, true);
+    creaScheda();
+    if (schedaAperta->id_scheda != 0) {
+        schedaAperta->caricaEsercizi();
+    }
+    contaTempi = std::make_shared<ContatoreTempi>();
+    contaTempi->schedaCorrente = schedaAperta;
+    contaTempi->barraStato = &StatusBar1;
+    contaTempi->contaEstampa();
+    StatusBar1.setPanel(QStringLiteral("date2"), runtime::dateText(runtime::today()));
+    show(); // maximised: the pages are placed by its width
+    disponiPagine();
+    puoiChiudere = false;
+    ToolbarSchede.setButtonEnabled(pulsanteStampa, !schedaAperta->isModello && finestre::haAnteprima());
+    ToolbarSchede.setButtonEnabled(pulsanteSalvaSuModello, finestre::haNuovoModello());
+}
+
+void mdiScheda::creaScheda() {
+    const auto nuova = std::make_shared<scheda>();
+    if (idSchedaSelezionata != 0) {
+        schedaAperta = nuova;
+        schedaAperta->carica(idSchedaSelezionata);
+    } else if (idModelloSelezionato == 0) {
+        schedaAperta = nuova;
+        nuova->id_utente = idUtenteSelezionato;
+    } else if (idUtenteSelezionato == 0) {
+        schedaAperta = std::make_shared<SchedaModello>();
+        schedaAperta->carica(idModelloSelezionato);
+        ToolbarSchede.setButtonEnabled(pulsanteSalva, !schedaAperta->preimpostata);
+    } else {
+        schedaAperta = nuova;
+        SchedaModello modello;
+        modello.carica(idModelloSelezionato);
+        modello.caricaEsercizi();
+        modello.travasaTo(*schedaAperta, false);
+        nuova->id_utente = idUtenteSelezionato;
+    }
+}
+
+void mdiScheda::disponiPagine() {
+    const auto figure = finestre::disponiFigure(outerWidth());
+    double altezza = 0;
+    const auto intestazione = [&altezza](toolkit::Form& pagina) {
+        pagina.load();
+        pagina.setTop(0);
+        pagina.setLeft(0);
+        altezza = pagina.outerHeight();
+        pagina.show();
+    };
+    if (idUtenteSelezionato != 0) {
+        intestazione(SchedaIntestazione::comune());
+    } else {
+        finestre::disponiIntestazioneModello(intestazione);
+    }
+    auto& corpo = SchedaCorpo::comune();
+    corpo.load();
+    corpo.setLeft(0);
+    corpo.setTop(altezza);
+    corpo.show();
+    finestre::disponiAnteprimaFigura(figure);
+}
+
+void mdiScheda::premuto(const QString& chiave) {
+    if (!schedaAperta->isModello) {
+        SchedaIntestazione::comune().nascondiTutto();
+    }
+    SchedaCorpo::comune().ScriviDati();
+    const QString comando = chiave.toLower();
+    if (comando == u"salva") {
+        salva();
+    } else if (comando == u"salvasumodello") {
+        salvaSuModello();
+    } else if (comando == u"stampa") {
+        stampa();
+    } else if (comando == u"fine") {
+        fine();
+    }
+}
+
+void mdiScheda::salva() {
+    schedaAperta->save();
+    informa(QStringLiteral("Salvataggio effettuato"));
+}
+
+void mdiScheda::stampa() {
+    puoiChiudere = true;
+    SchedaCorpo::comune().unload();
+    puoiChiudere = false;
+    schedaAperta->save(); // printing stores the card, without a question
+    idSchedaSelezionata = schedaAperta->id_scheda;
+    finestre::mostraAnteprima();
+    schedaAperta->caricaEsercizi(); // the list is again what the store holds
+    SchedaCorpo::comune().show();
+    disponiPagine();
+}
+
+void mdiScheda::salvaSuModello() {
+    SchedaCorpo::comune().ScriviDati();
+    nomeModelloSelezionato = schedaAperta->categoria;
+    finestre::chiediNuovoModello();
+    const auto modello = std::make_shared<SchedaModello>();
+    modello->carica(idModelloSelezionato); // whatever the dialog did
+    salvaComeModello(*schedaAperta, *modello);
+    if (schedaAperta->isModello) {
+        apriModello(modello);
+    } else {
+        informa(QStringLiteral("Creata la nuova Scheda Modello '%1'").arg(modello->descrizione));
+    }
+    nomeModelloSelezionato.clear();
+    idModelloSelezionato = 0;
+}
+
+void mdiScheda::apriModello(const std::shared_ptr<SchedaModello>& modello) {
+    if (!schedaAperta->preimpostata &&
+        host::ask(QStringLiteral("Salvare le modifiche al modello precedente?"), host::Icon::Information,
+                  host::Buttons::YesNo) == host::Answer::Yes) {
+        schedaAperta->save();
+    }
+    schedaAperta = modello; // the counter keeps the template that it was given
+    puoiChiudere = true;
+    finestre::scaricaIntestazioneModello();
+    SchedaCorpo::comune().unload();
+    puoiChiudere = false;
+    disponiPagine();
+    ToolbarSchede.setButtonEnabled(pulsanteSalva, !schedaAperta->preimpostata);
+    informa(QStringLiteral("Creata e aperta la nuova Scheda Modello '%1'").arg(modello->descrizione));
+}
+
+void mdiScheda::fine() {
+    // The question does not depend on `isSaved`: it is asked of an untouched card too.
+    if (schedaAperta->isModello && schedaAperta->preimpostata) {
+        puoiChiudere = true;
+        unload(); // the globals keep their values here
+        return;
+    }
+    switch (host::ask(QStringLiteral("Salvo le ultime modifiche?"), host::Icon::Information,
+                      host::Buttons::YesNoCancel)) {
+    case host::Answer::Yes:
+        puoiChiudere = true;
+        schedaAperta->save();
+        abbandona();
+        break;
+    case host::Answer::No:
+        puoiChiudere = true;
+        abbandona();
+        break;
+    default:
+        puoiChiudere = false;
+    }
+}
+
+void mdiScheda::abbandona() {
+    idUtenteSelezionato = 0;
+    idSchedaSelezionata = 0;
+    idModelloSelezionato = 0;
+    unload();
+}
+
+bool mdiScheda::onQueryUnload() {
+    if (inChiusura) {
+        return true;
+    }
+    hide();
+    finestre::mostraPrincipale();
+    return false;
+}
