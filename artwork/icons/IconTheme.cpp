@@ -42,9 +42,13 @@ QByteArray IconTheme::source(const QString& name, int side, int& drawnFor) const
     const int wanted = side >= 32 ? 32 : side >= 22 ? 22 : 16;
     for (const int size : {wanted, 22, 32, 16}) {
         QFile file(folder_.filePath(QStringLiteral("actions/%1/%2.svg").arg(size).arg(name)));
-        if (file.open(QIODevice::ReadOnly)) {
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        const QByteArray svg = file.readAll();
+        // A drawing without style classes is a full-colour picture, which would stand out from the family.
+        if (svg.contains("ColorScheme-")) {
             drawnFor = size;
-            return file.readAll();
+            return svg;
         }
     }
     throw std::runtime_error(

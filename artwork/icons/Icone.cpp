@@ -1,7 +1,6 @@
 #include "Icone.h"
 
-#include <QFile>
-#include <QSize>
+#include <QPixmap>
 
 // A static library's resources are linked in only if somebody names them; the macro wants no namespace around
 // it.
@@ -15,12 +14,21 @@ QIcon icona(const QString& form, const QString& key) {
     loadIcons();
     QIcon icon;
     for (const int size : {16, 24, 32}) {
-        const QString stem = QStringLiteral(":/icone/%1/%2_%3").arg(form, key).arg(size);
-        if (!QFile::exists(stem + QStringLiteral(".png")))
-            return {};
-        // The finer file, "@2x", is found by the icon itself.
-        icon.addFile(stem + QStringLiteral(".png"), QSize(size, size), QIcon::Normal);
-        icon.addFile(stem + QStringLiteral("_hot.png"), QSize(size, size), QIcon::Active);
+        for (const int ratio : {1, 2}) {
+            for (const bool hot : {false, true}) {
+                // Loaded one by one: left to itself, an icon takes the finer files on a fine screen only, and
+                // not when a window is drawn enlarged.
+                QPixmap picture(
+                    QStringLiteral(":/icone/%1/%2_%3%4%5.png")
+                        .arg(form, key)
+                        .arg(size)
+                        .arg(QLatin1String(hot ? "_hot" : ""), QLatin1String(ratio == 2 ? "@2x" : "")));
+                if (picture.isNull())
+                    return {};
+                picture.setDevicePixelRatio(ratio);
+                icon.addPixmap(picture, hot ? QIcon::Active : QIcon::Normal);
+            }
+        }
     }
     return icon;
 }
