@@ -194,6 +194,7 @@ void Form::setBorderless() {
 void Form::setParentForm(ParentForm& parent) {
     parentForm_ = &parent;
     setWindowFlags(Qt::Widget);
+    setAutoFillBackground(true); // the colour of an active frame stays in its border
     frame_ = new ChildFrame(*this);
     parent.area()->addSubWindow(frame_);
     parent.pages_.append(this);
