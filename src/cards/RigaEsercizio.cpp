@@ -77,6 +77,12 @@ RigaEsercizio::RigaEsercizio(int indice, int righe, QWidget* pagina, sheet::Pict
     const QString tip = QStringLiteral("Scegli il tipo di esercizio");
     TipoEsercizio.addTab(chiaveFigura, QStringLiteral("Quiver-Deck"), tip);
     TipoEsercizio.addTab(chiaveLibero, QStringLiteral("Libero"), tip);
+    for (toolkit::Label* etichetta :
+         {&Label8, &nEsercizio, &etiDurata, &etiFrequenza, &etiAmpiezza, &etiSerie, &etiRecupero, &etiMin,
+          &etiSec, &etiModalita, &etiPeso, &etiNote}) {
+        etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // level with the field beside it
+    }
+    figura.setFrameShape(QFrame::StyledPanel);
     invito.setWordWrap(true);
     invito.setAlignment(Qt::AlignCenter);
     figura.setDropTarget(true);
@@ -242,7 +248,7 @@ void RigaEsercizio::caricaFigura(qint32 id_fig) {
     ::figura f;
     f.carica(id_fig);
     const sheet::Picture picture = immagini_.load(host::resolve(f.figura_()), quadroFigura);
-    const QSize pixels = (QSizeF(figura.size()) * figura.devicePixelRatioF()).toSize();
+    const QSize pixels = (QSizeF(figura.contentsRect().size()) * figura.devicePixelRatioF()).toSize();
     const QImage image = picture.stretchedTo(pixels);
     // The row is written at each key: a picture that shows already is not drawn anew.
     if (image.cacheKey() != figura.image().cacheKey()) {

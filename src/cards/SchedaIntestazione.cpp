@@ -30,6 +30,9 @@ constexpr int giorniDiPeriodo = 21;
 const QString frequenzaUsuale = QStringLiteral("3");
 constexpr int categoriaUsuale = 1; // second of the list
 
+/// Nine days fill the list; pixels.
+constexpr QSize altezzaGiorno{100, 15};
+
 const QString valoreFuoriLista = QStringLiteral("Selezionare un valore tra quelli disponibili!");
 
 } // namespace
@@ -64,25 +67,25 @@ SchedaIntestazione::SchedaIntestazione()
 
 void SchedaIntestazione::disponi() {
     place(Frame1, 60, 0, 6075, 3000);
-    place(atleta, 120, 225, 855, 255);
+    place(atleta, 120, 165, 855, 255);
     place(utente, 1260, 210, 2760, 255);
     place(intestazione, 120, 480, 1095, 255);
-    place(etiCategoria, 240, 885, 960, 255);
+    place(etiCategoria, 240, 870, 960, 255);
     place(categoria, 1215, 840, 2820, 315);
-    place(etiObiettivo, 240, 1185, 960, 255);
+    place(etiObiettivo, 240, 1170, 960, 255);
     place(Obiettivo, 1215, 1155, 2820, 285);
-    place(etiIstruttore, 240, 1470, 960, 255);
+    place(etiIstruttore, 240, 1455, 960, 255);
     place(Istruttore, 1215, 1440, 2820, 285);
-    place(etiDal, 4155, 900, 345, 255);
+    place(etiDal, 4155, 885, 345, 255);
     place(dal, 4515, 855, 1290, 315);
-    place(etiAl, 4155, 1215, 345, 255);
+    place(etiAl, 4155, 1200, 345, 255);
     place(al, 4515, 1170, 1290, 315);
-    place(etiFreqAllen, 240, 1785, 3060, 255);
+    place(etiFreqAllen, 240, 1770, 3060, 255);
     place(FreqAllen, 3315, 1740, 720, 315);
-    place(etiGGAllen, 240, 2100, 1905, 255);
+    place(etiGGAllen, 240, 2085, 1905, 255);
     place(Text1, 2160, 2070, 1605, 285);
     place(apriGGAllen, 3765, 2085, 270, 255);
-    place(etiNote, 240, 2385, 1125, 255);
+    place(etiNote, 240, 2370, 1125, 255);
     place(note, 1380, 2355, 4440, 585);
     place(GGAllen, 2160, 15, 1845, 2085);
 }
@@ -90,6 +93,12 @@ void SchedaIntestazione::disponi() {
 void SchedaIntestazione::prepara() {
     atleta.setFont(toolkit::font(QStringLiteral("MS Sans Serif"), 8.25, true));
     intestazione.setFont(atleta.font());
+    for (toolkit::Label* etichetta : {&utente, &intestazione, &etiCategoria, &etiObiettivo, &etiIstruttore,
+                                      &etiDal, &etiAl, &etiFreqAllen, &etiGGAllen, &etiNote}) {
+        etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // level with the field beside it
+    }
+    atleta.setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    utente.setMargin(2);
     utente.setBackgroundRole(QPalette::Base);
     utente.setAutoFillBackground(true);
     Obiettivo.guardApostrophes();
@@ -106,6 +115,10 @@ void SchedaIntestazione::prepara() {
                                "Venerdi", "Sabato", "Domenica"}) {
         GGAllen.addItem(QLatin1String(giorno));
     }
+    QPalette grigio = GGAllen.palette();
+    grigio.setColor(QPalette::Base, grigio.color(QPalette::Button));
+    GGAllen.setPalette(grigio);
+    GGAllen.setGridSize(altezzaGiorno);
     GGAllen.hide();
 }
 
