@@ -5,6 +5,7 @@
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/MessageBoxes.h"
 #include "platform/toolkit/QuiverStyle.h"
+#include "platform/toolkit/Validation.h"
 
 #include <QEvent>
 #include <QLibraryInfo>
@@ -105,7 +106,7 @@ void Application::purge() {
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
-        return QApplication::notify(receiver, event);
+        return Validation::stops(receiver, event) || QApplication::notify(receiver, event);
     } catch (const runtime::Error& error) {
         fatal(error.number(), error.description());
     } catch (const std::exception& error) {

@@ -14,6 +14,10 @@
 
 namespace toolkit {
 
+namespace {
+constexpr Qt::MatchFlags exactly = Qt::MatchExactly | Qt::MatchCaseSensitive;
+}
+
 Combo::Combo(const QString& name, QWidget* parent, Kind kind) : QComboBox(parent) {
     setObjectName(name);
     setEditable(kind == Kind::Editable);
@@ -53,7 +57,7 @@ void Combo::addItems(const QStringList& texts) {
 }
 
 int Combo::index() const {
-    return itemText(currentIndex()) == currentText() ? currentIndex() : -1;
+    return itemText(currentIndex()) == currentText() ? currentIndex() : findText(currentText(), exactly);
 }
 
 void Combo::showItem(int index) {
@@ -70,7 +74,7 @@ void Combo::showItem(int index) {
 }
 
 void Combo::setText(const QString& text) {
-    const int found = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    const int found = findText(text, exactly);
     if (!isEditable()) {
         if (found < 0) {
             runtime::raise(runtime::InvalidPropertyValue, {}, objectName());

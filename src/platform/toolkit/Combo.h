@@ -25,7 +25,7 @@ public:
     QString item(int index) const override { return itemText(index); }
     QString text() const override { return currentText(); }
 
-    /// The item chosen last, from 0; -1 if the text is none of the items.
+    /// The item whose text the box shows, from 0; -1 if there is none.
     int index() const;
 
     /// Sets the text without a click. A fixed combo takes only texts of its list

@@ -4,16 +4,31 @@
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QList>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTabBar>
-#include <QToolButton>
 #include <QWidget>
+#include <algorithm>
+#include <utility>
 
 namespace toolkit {
 
+namespace {
+
+QList<Validation*>& instances() {
+    static QList<Validation*> all;
+    return all;
+}
+
+} // namespace
+
 Validation::Validation(QWidget* page) : QObject(page), page_(page) {
-    qApp->installEventFilter(this);
+    instances().append(this);
+}
+
+Validation::~Validation() {
+    instances().removeAll(this);
 }
 
 void Validation::add(QWidget* field, std::function<bool()> check) {
@@ -65,19 +80,36 @@ bool Validation::refuses(QWidget* field) {
     return true;
 }
 
-bool Validation::eventFilter(QObject* watched, QEvent* event) {
-    const QEvent::Type type = event->type();
-    const bool press = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
-    if (!press && type != QEvent::MouseButtonRelease && type != QEvent::Wheel && type != QEvent::KeyPress &&
-        type != QEvent::Shortcut) {
+bool Validation::stops(QObject* receiver, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::Shortcut:
+        break;
+    default:
         return false;
     }
-    auto* target = qobject_cast<QWidget*>(watched);
+    auto* target = qobject_cast<QWidget*>(receiver);
     if (target == nullptr) {
         return false;
     }
+    const QList<Validation*> all = instances();
+    return std::any_of(all.begin(), all.end(), [target, event](Validation* validation) {
+        return instances().contains(validation) && validation->stopsHere(target, event);
+    });
+}
+
+bool Validation::stopsHere(QWidget* target, QEvent* event) {
+    const QEvent::Type type = event->type();
     if (type == QEvent::MouseButtonRelease) {
         return std::exchange(swallowRelease_, false) && page_->isAncestorOf(target);
+    }
+    const bool press = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+    if (press) {
+        swallowRelease_ = false;
     }
     QWidget* field = currentField();
     if (field == nullptr) {
@@ -88,16 +120,13 @@ bool Validation::eventFilter(QObject* watched, QEvent* event) {
         const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
         return tab && (target == field || field->isAncestorOf(target)) && refuses(field);
     }
+    if (type == QEvent::Shortcut) {
+        return page_->isAncestorOf(target) && target != field && refuses(field);
+    }
     if (type == QEvent::Wheel && qobject_cast<QScrollBar*>(target) == nullptr) {
         return false;
     }
-    if (type == QEvent::Shortcut && (!page_->isAncestorOf(target) || target == field)) {
-        return false;
-    }
-    if (type != QEvent::Shortcut && !leavesFor(target, field)) {
-        return false;
-    }
-    if (!refuses(field)) {
+    if (!leavesFor(target, field) || !refuses(field)) {
         return false;
     }
     swallowRelease_ = press;

@@ -17,14 +17,17 @@ class Validation : public QObject {
 public:
     /// `page` is the form or any container of the fields; it owns the validation.
     explicit Validation(QWidget* page);
+    ~Validation() override;
 
     /// `check` shows its message and gives false to keep the focus.
     void add(QWidget* field, std::function<bool()> check);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Asked by the application before it delivers an event, ahead of any change of focus: true if a field
+    /// keeps the focus and the event must not arrive.
+    static bool stops(QObject* receiver, QEvent* event);
 
 private:
+    bool stopsHere(QWidget* target, QEvent* event);
     /// The checked field that has the focus, or nullptr.
     QWidget* currentField() const;
     bool leavesFor(QWidget* target, const QWidget* field) const;

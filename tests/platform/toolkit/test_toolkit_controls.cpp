@@ -1,0 +1,415 @@
+#include "platform/runtime/Error.h"
+#include "platform/toolkit/Toolkit.h"
+#include "support/ToolkitTest.h"
+#include "support/WindowChecks.h"
+#include "support/WindowPage.h"
+
+#include <QAbstractItemView>
+#include <QCalendarWidget>
+#include <QClipboard>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+using namespace toolkit;
+
+namespace {
+
+template <class Call> int errorOf(Call call) {
+    try {
+        call();
+    } catch (const runtime::Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+} // namespace
+
+class TestControls : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() {
+        form_ = std::make_unique<Form>("F");
+        form_->setInnerSize(9000, 6000);
+    }
+    void cleanup() { form_.reset(); }
+
+    void comboClicksAreChoices() {
+        auto* combo = new Combo("combo", form_->client());
+        place(*combo, 0, 0, 1500, 315);
+        combo->addItems({"30s", "45s", "60s"});
+        QCOMPARE(combo->text(), QString());
+        auto* other = new TextBox("other", form_->client());
+        place(*other, 0, 600, 1500, 285);
+        show();
+        const QSignalSpy clicks(combo, &Combo::clicked);
+        const QSignalSpy changes(combo, &Combo::changed);
+        const WindowPage page(*form_);
+
+        page.type("combo", "45S"); // neither completed nor chosen, in whatever case
+        page.key("combo", Qt::Key_Return);
+        page.press("other");
+        QCOMPARE(combo->text(), QString("45S"));
+        page.type("combo", "45s");
+        page.press("other");
+        QCOMPARE(clicks.count(), 0);
+        QCOMPARE(combo->count(), 3);
+        QVERIFY(changes.count() >= 6);
+
+        page.key("combo", Qt::Key_Down);
+        QCOMPARE(clicks.count(), 1);
+        combo->setText("45s");
+        QCOMPARE(clicks.count(), 1);
+        page.key("combo", Qt::Key_Down);
+        QCOMPARE(combo->text(), QString("60s"));
+        QCOMPARE(clicks.count(), 2);
+        combo->selectIndex(0);
+        QCOMPARE(combo->text(), QString("30s"));
+        QCOMPARE(clicks.count(), 3);
+        QCOMPARE(errorOf([&] { combo->selectIndex(3); }), int(runtime::InvalidPropertyValue));
+        combo->setText("altro");
+        QCOMPARE(combo->index(), -1);
+        combo->selectIndex(0); // the item chosen before, under another text
+        QCOMPARE(combo->text(), QString("30s"));
+    }
+
+    void comboPopupChoosesByMouse() {
+        auto* combo = new Combo("combo", form_->client());
+        place(*combo, 0, 0, 1500, 315);
+        combo->addItems({"30s", "45s"});
+        combo->setText("30s");
+        show();
+        const QSignalSpy clicks(combo, &Combo::clicked);
+        combo->showPopup();
+        QAbstractItemView* list = combo->view();
+        QTRY_VERIFY(list->isVisible());
+        // The popup ignores what comes right after it opened, so that the opening click chooses nothing.
+        QTRY_COMPARE(
+            [&] {
+                QTest::mouseMove(list->viewport(), list->visualRect(combo->model()->index(1, 0)).center());
+                QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                                  list->visualRect(combo->model()->index(1, 0)).center());
+                return combo->text();
+            }(),
+            QString("45s"));
+        QCOMPARE(clicks.count(), 1);
+    }
+
+    void fixedComboTakesOnlyItems() {
+        auto* combo = new Combo("combo", form_->client(), Combo::Kind::Fixed);
+        combo->addItems({"Uno", "Due"});
+        combo->setText("Due");
+        QCOMPARE(combo->index(), 1);
+        QCOMPARE(errorOf([&] { combo->setText("due"); }), int(runtime::InvalidPropertyValue));
+    }
+
+    void apostrophes_data() {
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("text box") << "box";
+        QTest::newRow("text area") << "area";
+        QTest::newRow("combo box") << "combo";
+    }
+    void apostrophes() {
+        QFETCH(QString, kind);
+        auto* box = new TextBox("box", form_->client());
+        auto* area = new TextArea("area", form_->client());
+        auto* combo = new Combo("combo", form_->client());
+        place(*box, 0, 0, 3000, 285);
+        place(*area, 0, 600, 3000, 900);
+        place(*combo, 0, 1800, 3000, 315);
+        box->guardApostrophes();
+        area->guardApostrophes();
+        combo->guardApostrophes();
+        show();
+        const WindowPage page(*form_);
+        page.type(kind, "D'Amico");
+        QCOMPARE(page.text(kind), QString("D’Amico"));
+        page.type(kind, "");
+        QGuiApplication::clipboard()->setText("l'asta d'oro");
+        page.key(kind, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(page.text(kind), QString("l’asta d’oro"));
+        box->setText("set'ting"); // by program: untouched
+        area->setText("set'ting");
+        combo->setText("set'ting");
+        QCOMPARE(page.text(kind), QString("set'ting"));
+    }
+
+    void changesAreToldAtOnceAndOnce() {
+        auto* box = new TextBox("box", form_->client());
+        auto* area = new TextArea("area", form_->client());
+        auto* date = new DatePicker("date", form_->client());
+        const QSignalSpy boxed(box, &TextBox::changed);
+        const QSignalSpy areaed(area, &TextArea::changed);
+        const QSignalSpy dated(date, &DatePicker::changed);
+        for (int again = 0; again < 2; ++again) {
+            box->setText("testo");
+            area->setText("riga\nriga");
+            date->setValue(QDate(2026, 1, 2));
+        }
+        QCOMPARE(boxed.count(), 1);
+        QCOMPARE(areaed.count(), 1);
+        QCOMPARE(dated.count(), 1);
+        QCOMPARE(date->text(), QString("02/01/2026"));
+        QCOMPARE(errorOf([&] { date->setValue({}); }), int(runtime::InvalidPropertyValue));
+        QCOMPARE(date->calendarWidget()->locale().language(), QLocale::Italian);
+    }
+
+    void longTextsLoseNothing() {
+        auto* area = new TextArea("area", form_->client());
+        const QString text(32768, QChar(0xe8));
+        area->setText(text);
+        QCOMPARE(area->text().size(), text.size());
+    }
+
+    void keyFilterSeesCharactersOnly() {
+        auto* box = new TextBox("box", form_->client());
+        place(*box, 0, 0, 1500, 285);
+        box->setKeyFilter([](QChar c) { return c.unicode() == 3 || c.unicode() == 8 || c.isDigit(); });
+        show();
+        const WindowPage page(*form_);
+        page.type("box", "1a2-'3");
+        QCOMPARE(box->text(), QString("123"));
+        page.key("box", Qt::Key_Backspace);
+        page.key("box", Qt::Key_Home);
+        page.key("box", Qt::Key_Delete);
+        QCOMPARE(box->text(), QString("2"));
+        QGuiApplication::clipboard()->setText("99");
+        page.key("box", Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(box->text(), QString("2"));
+    }
+
+    void scrollBarReportsOnRelease() {
+        auto* bar = new ScrollBar("bar", form_->client());
+        place(*bar, 0, 0, 240, 5475);
+        bar->setRange(1, 20);
+        show();
+        const QSignalSpy told(bar, &ScrollBar::changed);
+        const QPoint thumb(7, 25);
+        QTest::mousePress(bar, Qt::LeftButton, {}, thumb);
+        QMouseEvent move(QEvent::MouseMove, thumb + QPoint(0, 150), bar->mapToGlobal(thumb + QPoint(0, 150)),
+                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(bar, &move);
+        QVERIFY(bar->isSliderDown());
+        QCOMPARE(told.count(), 0);
+        QTest::mouseRelease(bar, Qt::LeftButton, {}, thumb + QPoint(0, 150));
+        QCOMPARE(told.count(), 1);
+        QVERIFY(bar->value() > 1);
+        bar->setValue(3);
+        QCOMPARE(told.count(), 2);
+        QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(7, bar->height() - 4)); // the arrow: one step
+        QCOMPARE(bar->value(), 4);
+        QCOMPARE(told.count(), 3);
+    }
+
+    void checkListTellsTheUsersTicks() {
+        auto* list = new CheckListBox("list", form_->client());
+        place(*list, 0, 0, 1845, 2085);
+        for (const char* day : {"Giornaliero", "Nessuno", "Lunedi"}) {
+            list->addItem(day);
+        }
+        show();
+        const QSignalSpy told(list, &CheckListBox::itemClick);
+        list->setChecked(2, true);
+        QCOMPARE(told.count(), 0);
+        const QRect line = list->visualItemRect(list->item(1));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, line.center());
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toInt(), 1);
+        QVERIFY(list->checked(1) && list->checked(2) && !list->checked(0));
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(line.left() + 8, line.center().y()));
+        QVERIFY(!list->checked(1)); // the box itself answers once, too
+        QCOMPARE(told.count(), 2);
+        QCOMPARE(errorOf([&] { list->setChecked(3, true); }), int(runtime::SubscriptOutOfRange));
+    }
+
+    void toolbarByKeyAndPosition() {
+        auto* bar = new Toolbar("bar", form_.get());
+        bar->addButton("salva", "Salva", "tip");
+        bar->addSeparator();
+        bar->addButton("Stampa", "Stampa", {});
+        form_->addTopBar(bar);
+        ImageList images({16, 16});
+        QPixmap red(16, 16);
+        red.fill(Qt::red);
+        QPixmap blue(16, 16);
+        blue.fill(Qt::blue);
+        images.add("uno", QIcon(red));
+        images.add("due", QIcon(blue));
+        bar->setImageList(&images);
+        assegnaImmaginiToolbar(*bar);
+        QCOMPARE(bar->button(3).icon().pixmap(16).toImage().pixelColor(8, 8), QColor(Qt::blue));
+        show();
+        const QSignalSpy told(bar, &Toolbar::buttonClick);
+        bar->setButtonEnabled(1, false);
+        QTest::mouseClick(&bar->button("salva"), Qt::LeftButton);
+        WindowPage(*form_).press("Stampa");
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toString(), QString("Stampa"));
+        for (const int position : {0, 2, 4}) {
+            QCOMPARE(errorOf([&] { (void)bar->button(position); }), int(runtime::ElementNotFound));
+        }
+    }
+
+    void panelsByKey() {
+        StatusBar bar("bar", form_.get());
+        bar.addPanel("status");
+        bar.setPanel("status", "Totale <b>");
+        QCOMPARE(bar.panel("status"), QString("Totale <b>"));
+        QCOMPARE(errorOf([&] { bar.setPanel("Status", "x"); }), int(runtime::ElementNotFound));
+    }
+
+    void tabsTellClicksAndSelections() {
+        auto* tabs = new TabStrip("tabs", form_->client());
+        place(*tabs, 0, 0, 1965, 315);
+        tabs->addTab("quiverdeck", "Quiver-Deck");
+        tabs->addTab("libero", "Libero");
+        show();
+        const QSignalSpy told(tabs, &TabStrip::clicked);
+        WindowPage(*form_).clickTab("tabs", 2);
+        QCOMPARE(tabs->selectedKey(), QString("libero"));
+        tabs->select("quiverdeck");
+        QCOMPARE(tabs->selectedIndex(), 1);
+        QCOMPARE(told.count(), 2);
+        QCOMPARE(errorOf([&] { tabs->select("x"); }), int(runtime::ElementNotFound));
+        QCOMPARE(cutTexts(*form_), QStringList());
+    }
+
+    void picturesComeOrTellWhy() {
+        const QTemporaryDir folder;
+        QImage picture(40, 20, QImage::Format_RGB32);
+        picture.fill(Qt::black);
+        QVERIFY(picture.save(folder.filePath("Figura.BMP")));
+        QFile bad(folder.filePath("bad.jpg"));
+        QVERIFY(bad.open(QIODevice::WriteOnly));
+        bad.write("no picture");
+        bad.close();
+        PictureBox box("box", form_->client());
+        QCOMPARE(errorOf([&] { box.load(folder.filePath("none.jpg")); }), int(runtime::FileNotFound));
+        QCOMPARE(errorOf([&] { box.load(folder.filePath("bad.jpg")); }), 481);
+        QVERIFY(box.isEmpty());
+        box.load(folder.filePath("figura.bmp").replace('/', '\\'));
+        QCOMPARE(box.pictureSize(), QSizeF(600, 300));
+        ImageList list({30, 30});
+        list.add("a", folder.filePath("Figura.BMP"));
+        const QImage fitted = list.pixmap("a").toImage();
+        QCOMPARE(fitted.size(), QSize(30, 30));
+        QCOMPARE(fitted.pixelColor(15, 2), QColor(Qt::white)); // proportions kept
+        QCOMPARE(fitted.pixelColor(15, 15), QColor(Qt::black));
+        QCOMPARE(errorOf([&] { list.add("a", folder.filePath("Figura.BMP")); }),
+                 int(ImageList::duplicateKey));
+        QCOMPARE(errorOf([&] { (void)list.pixmap("b"); }), int(runtime::ElementNotFound));
+    }
+
+    void treeIsACopyOnlyDragSource() {
+        ImageList images({150, 150});
+        QPixmap white(150, 150);
+        white.fill(Qt::white);
+        images.add("k1", QIcon(white));
+        images.add("k2", QIcon(white));
+        auto* tree = new ImageTree("tree", form_->client());
+        place(*tree, 0, 0, 3180, 5000);
+        tree->setImageList(&images);
+        tree->addNode("k1", "[1]", "k1");
+        tree->addNode("k2", "[2.5]", "k2");
+        tree->setNodeTag("k2", "17");
+        QCOMPARE(errorOf([&] { tree->addNode("k1", "x", "k1"); }), int(ImageList::duplicateKey));
+        QVERIFY(!tree->contains("K1"));
+        QString pressed;
+        QObject::connect(tree, &ImageTree::nodePressed, form_.get(),
+                         [&](const QString& key) { pressed = key; });
+        const QSignalSpy clicks(tree, &ImageTree::nodeClick);
+        tree->setDragSource([&] { return pressed.isEmpty() ? QString() : tree->nodeTag(pressed); });
+        show();
+        const QRect node = tree->visualItemRect(tree->topLevelItem(1));
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, node.center());
+        QCOMPARE(pressed, QString("k2"));
+        QCOMPARE(clicks.count(), 1);
+        const std::unique_ptr<QMimeData> data(tree->dragData());
+        QCOMPARE(data->text(), QString("17"));
+        QVERIFY(!(tree->topLevelItem(1)->flags() & Qt::ItemIsEditable));
+        pressed.clear();
+        QCOMPARE(tree->dragData(), nullptr);
+    }
+
+    void picturesTakeDroppedText() {
+        auto* box = new PictureBox("box", form_->client());
+        place(*box, 0, 0, 2265, 2160);
+        show();
+        const QSignalSpy told(box, &PictureBox::dropped);
+        const WindowPage page(*form_);
+        QVERIFY(!page.drop("box", "17"));
+        box->setDropTarget(true);
+        QVERIFY(page.drop("box", "17"));
+        QCOMPARE(told.count(), 1);
+        QCOMPARE(told.at(0).at(0).toString(), QString("17"));
+    }
+
+    void captionsRunIntoFreeRoomThenNarrow() {
+        auto* free = new Label("free", "Frequenza allenamento settimanale:", form_->client());
+        place(*free, 120, 0, 900, 255);
+        auto* shut = new Label("shut", "Frequenza allenamento:", form_->client());
+        auto* field = new TextBox("field", form_->client());
+        show();
+        QVERIFY(free->isWhole());
+        QCOMPARE(free->font().stretch(), int(QFont::Unstretched));
+        const int needed = shut->fontMetrics().horizontalAdvance(shut->text());
+        place(*field, 120 + toTwips(needed * 0.92), 600, 900, 285);
+        place(*shut, 120, 600, 600, 255);
+        field->show();
+        shut->show();
+        shut->fit();
+        QVERIFY(shut->font().stretch() < 100 && shut->font().stretch() >= Label::narrowestStretch);
+        QVERIFY(shut->geometry().right() < field->x());
+        place(*shut, 120, 600, 600, 255);
+        shut->setCaption("Dal:");
+        QCOMPARE(shut->width(), 40); // home again
+    }
+
+    /// The narrowest controls of the windows, with what they must show.
+    void narrowControlsShowTheirTexts() {
+        auto* combo = new Combo("combo", form_->client());
+        place(*combo, 0, 0, 735, 315);
+        combo->addItems({"30Hz", "35Hz"});
+        auto* text = new TextBox("text", form_->client());
+        place(*text, 0, 600, 390, 285);
+        text->setText("59");
+        auto* date = new DatePicker("date", form_->client());
+        place(*date, 0, 1200, 1290, 315);
+        auto* button = new Button("button", "+", form_->client());
+        place(*button, 0, 1800, 480, 255);
+        auto* modes = new Combo("modes", form_->client());
+        place(*modes, 0, 2400, 2490, 315);
+        modes->addItem("Dinamico a carico aggiuntivo");
+        show();
+        QCOMPARE(cutTexts(*form_), QStringList());
+        combo->addItem("30000Hz"); // and the check does see what is cut
+        QCOMPARE(cutTexts(*form_).size(), 1);
+    }
+
+    void optionsAndProgress() {
+        OptionButton m("m", "M", form_->client());
+        OptionButton f("f", "F", form_->client());
+        m.setValue(true);
+        f.setValue(true);
+        QVERIFY(!m.value());
+        f.setValue(false);
+        QVERIFY(!m.value() && !f.value());
+        ProgressBar bar("bar", form_->client());
+        bar.setMax(2);
+        bar.setValue(2);
+        QCOMPARE(errorOf([&] { bar.setValue(3); }), int(runtime::InvalidPropertyValue));
+    }
+
+private:
+    void show() {
+        form_->show();
+        QTRY_VERIFY(form_->isActiveWindow());
+    }
+
+    std::unique_ptr<Form> form_;
+};
+
+QUIVERDECK_WINDOW_TEST_MAIN(TestControls)
+#include "test_toolkit_controls.moc"

@@ -1,0 +1,177 @@
+#include "support/WindowPage.h"
+
+#include "platform/toolkit/Combo.h"
+#include "platform/toolkit/ReportList.h"
+#include "platform/toolkit/TabStrip.h"
+#include "platform/toolkit/TextArea.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDateEdit>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTest>
+
+void WindowPage::fail(const QString& what) const {
+    const QByteArray text = QStringLiteral("%1: %2").arg(window_.objectName(), what).toUtf8();
+    QTest::qFail(text.constData(), __FILE__, __LINE__);
+    throw std::runtime_error(text.toStdString());
+}
+
+QWidget& WindowPage::widget(const QString& name) const {
+    const QList<QWidget*> found = window_.findChildren<QWidget*>(name);
+    if (found.isEmpty()) {
+        fail(QStringLiteral("no control named ") + name);
+    }
+    return *found.constFirst();
+}
+
+QWidget& WindowPage::ready(const QString& name) const {
+    QWidget& control = widget(name);
+    if (!control.isVisible()) {
+        fail(name + QStringLiteral(" does not show"));
+    }
+    if (!control.isEnabled()) {
+        fail(name + QStringLiteral(" is disabled"));
+    }
+    return control;
+}
+
+void WindowPage::press(const QString& name) const {
+    QWidget& control = ready(name);
+    QPoint where = control.rect().center();
+    if (qobject_cast<QAbstractButton*>(&control) != nullptr) {
+        where = QPoint(std::min(where.x(), 12), where.y()); // an option answers only on its picture and text
+    }
+    QTest::mouseClick(&control, Qt::LeftButton, {}, where);
+}
+
+void WindowPage::doublePress(const QString& name) const {
+    QTest::mouseDClick(&ready(name), Qt::LeftButton);
+}
+
+void WindowPage::type(const QString& name, const QString& text) const {
+    QWidget& control = ready(name);
+    QWidget* inside = &control;
+    if (const auto* combo = qobject_cast<QComboBox*>(&control);
+        combo != nullptr && combo->lineEdit() != nullptr) {
+        inside = combo->lineEdit();
+    } else if (auto* area = qobject_cast<QPlainTextEdit*>(&control)) {
+        inside = area->viewport();
+    }
+    QTest::mouseClick(inside, Qt::LeftButton, {}, QPoint(4, inside->height() / 2));
+    if (auto* line = qobject_cast<QLineEdit*>(inside)) {
+        line->selectAll();
+    } else if (auto* area = qobject_cast<QPlainTextEdit*>(&control)) {
+        area->selectAll();
+    }
+    if (text.isEmpty()) {
+        QTest::keyClick(&control, Qt::Key_Backspace);
+    } else {
+        QTest::keyClicks(&control, text);
+    }
+}
+
+void WindowPage::typeOn(const QString& name, const QString& text) const {
+    QTest::keyClicks(&ready(name), text);
+}
+
+void WindowPage::key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+    QTest::keyClick(&ready(name), key, modifiers);
+}
+
+void WindowPage::choose(const QString& name, const QString& item) const {
+    ready(name);
+    auto& combo = find<QComboBox>(name);
+    const int wanted = combo.findText(item, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (wanted < 0) {
+        fail(name + QStringLiteral(" has no item ") + item);
+    }
+    combo.setFocus();
+    // By keys only; one step more and back makes a choice even of the item that is chosen already.
+    for (int step = combo.currentIndex(); step > 0; --step) {
+        QTest::keyClick(&combo, Qt::Key_Up);
+    }
+    if (wanted == 0) {
+        QTest::keyClick(&combo, Qt::Key_Down);
+        QTest::keyClick(&combo, Qt::Key_Up);
+    }
+    while (combo.currentIndex() < wanted) {
+        QTest::keyClick(&combo, Qt::Key_Down);
+    }
+}
+
+void WindowPage::clickLine(const QString& name, int line, int times) const {
+    ready(name);
+    auto& list = find<toolkit::ReportList>(name);
+    int column = 0;
+    while (list.isColumnHidden(column)) {
+        ++column;
+    }
+    const QModelIndex index = list.model()->index(line, column);
+    list.scrollTo(index);
+    const QPoint where = list.visualRect(index).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, where);
+    if (times > 1) {
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, where);
+    }
+}
+
+void WindowPage::clickHeader(const QString& name, int column) const {
+    ready(name);
+    const QHeaderView& header = *find<toolkit::ReportList>(name).header();
+    const QPoint where(header.sectionViewportPosition(column) + header.sectionSize(column) / 2,
+                       header.height() / 2);
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, where);
+}
+
+void WindowPage::clickTab(const QString& name, int index) const {
+    ready(name);
+    auto& strip = find<toolkit::TabStrip>(name);
+    QTest::mouseClick(&strip, Qt::LeftButton, {}, strip.tabRect(index - 1).center());
+}
+
+bool WindowPage::drop(const QString& name, const QString& text) const {
+    QWidget& control = ready(name);
+    QMimeData data;
+    data.setText(text);
+    const QPoint middle = control.rect().center();
+    QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    if (!control.acceptDrops()) {
+        return false;
+    }
+    QApplication::sendEvent(&control, &enter);
+    if (!enter.isAccepted()) {
+        return false;
+    }
+    QDropEvent dropEvent(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&control, &dropEvent);
+    return dropEvent.isAccepted();
+}
+
+QString WindowPage::text(const QString& name) const {
+    QWidget& control = widget(name);
+    if (const auto* line = qobject_cast<QLineEdit*>(&control)) {
+        return line->text();
+    }
+    if (const auto* area = qobject_cast<QPlainTextEdit*>(&control)) {
+        return area->toPlainText();
+    }
+    if (const auto* combo = qobject_cast<QComboBox*>(&control)) {
+        return combo->currentText();
+    }
+    if (const auto* label = qobject_cast<QLabel*>(&control)) {
+        return label->text();
+    }
+    if (const auto* date = qobject_cast<QDateEdit*>(&control)) {
+        return date->text();
+    }
+    if (const auto* button = qobject_cast<QAbstractButton*>(&control)) {
+        return button->text();
+    }
+    fail(name + QStringLiteral(" shows no text"));
+}
