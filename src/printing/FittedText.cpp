@@ -3,6 +3,7 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -54,12 +55,27 @@ QString trimmedEnd(QString text) {
     return text;
 }
 
+/// "spalle,…" reads as a slip.
+QString withEllipsis(QString text) {
+    text = trimmedEnd(std::move(text));
+    while (!text.isEmpty() && QLatin1String(".,;:-").contains(text.back()))
+        text.chop(1);
+    return trimmedEnd(std::move(text)) + ellipsis;
+}
+
+/// The first family of the list that the system has; asking the system costs more than laying out a text, so
+/// its answer is kept.
+QString installedFamily(const QStringList& wished) {
+    static const QStringList all = QFontDatabase::families();
+    static const QSet<QString> installed(all.begin(), all.end());
+    const auto found = std::ranges::find_if(wished, [](const QString& f) { return installed.contains(f); });
+    return found == wished.end() ? wished.value(0) : *found;
+}
+
 } // namespace
 
 QFont pageFont(const Font& font, double sizeScale) {
-    const auto installed =
-        std::ranges::find_if(font.families, [](const QString& f) { return QFontDatabase::hasFamily(f); });
-    QFont result(installed == font.families.end() ? font.families.value(0) : *installed);
+    QFont result(installedFamily(font.families));
     result.setPixelSize(std::max(1, int(std::lround(font.points * twipsPerPoint * sizeScale))));
     result.setBold(font.bold);
     result.setItalic(font.italic);
@@ -157,14 +173,14 @@ void FittedText::cutLastLine() {
     mCut = true;
     QString line = trimmedEnd(mLines.back());
     const double room = usableWidth() / mWidthScale + tolerance;
-    while (!line.isEmpty() && widthOf(line + ellipsis) > room) {
+    while (!line.isEmpty() && widthOf(withEllipsis(line)) > room) {
         const qsizetype blank = line.lastIndexOf(u' ');
         // Whole words go first; a line of one word loses letters, never half a surrogate pair.
         line.truncate(blank > 0 && mElement.wordWrap ? blank
                                                      : line.size() - (line.back().isLowSurrogate() ? 2 : 1));
         line = trimmedEnd(line);
     }
-    mLines.back() = line + ellipsis;
+    mLines.back() = withEllipsis(line);
 }
 
 void FittedText::place() {
