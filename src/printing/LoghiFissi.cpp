@@ -1,24 +1,23 @@
 #include "printing/LoghiFissi.h"
 
+#include "artwork/logos/Loghi.h"
 #include "printing/Stile.h"
-
-#include <QFileInfo>
 
 namespace sheet {
 
 namespace {
 
-void addLogo(Surface& surface, const QString& name, QSizeF size, const QString& resource) {
-    Element& logo = surface.add(pictureBox(name, 0, QRectF({0, 0}, size)));
-    if (QFileInfo::exists(resource))
-        surface.load(logo, resource);
+void addLogo(Surface& surface, const QString& name, QSizeF size, artwork::Logo which) {
+    Element logo = pictureBox(name, 0, QRectF({0, 0}, size));
+    logo.picture = Picture::drawn([which](QSize pixels) { return artwork::logo(which, pixels); });
+    surface.add(std::move(logo));
 }
 
 } // namespace
 
 void addFixedLogos(Surface& surface) {
-    addLogo(surface, QStringLiteral("LogoZentara"), {1755, 540}, QStringLiteral(":/loghi/zentara.svg"));
-    addLogo(surface, QStringLiteral("logoQD"), {1350, 405}, QStringLiteral(":/loghi/quiverdeck.svg"));
+    addLogo(surface, QStringLiteral("LogoZentara"), {1755, 540}, artwork::Logo::Zentara);
+    addLogo(surface, QStringLiteral("logoQD"), {1350, 405}, artwork::Logo::QuiverDeck);
 }
 
 } // namespace sheet

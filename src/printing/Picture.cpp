@@ -58,10 +58,9 @@ QSize finestSize(QSizeF box) {
 } // namespace
 
 struct Picture::Data {
-    QString path;
-    bool isVector = false;
-    QImage master; ///< At the finest detail needed; null for a vector picture.
-    QImage latest; ///< The latest small scaled copy.
+    std::function<QImage(QSize)> draw; ///< Of a drawn picture.
+    QImage master;                     ///< Of a file: at the finest detail needed.
+    QImage latest;                     ///< The latest small scaled copy.
 };
 
 QSize Picture::ownSize(const QString& path) {
@@ -72,21 +71,23 @@ QSize Picture::ownSize(const QString& path) {
 Picture Picture::fromFile(const QString& path, QSizeF box) {
     QImageReader reader;
     const QSize own = open(reader, path);
-    auto data = std::make_shared<Data>();
-    data->path = path;
-    data->isVector = reader.format() == "svg" || reader.format() == "svgz";
-    if (!data->isVector) {
-        const QSize finest = finestSize(box);
-        if (own.width() > finest.width() || own.height() > finest.height()) {
-            QSize target = finest.boundedTo(own);
-            if (reader.transformation() & QImageIOHandler::TransformationRotate90)
-                target.transpose();
-            reader.setScaledSize(target);
-        }
-        data->master = read(reader, path);
+    const QSize finest = finestSize(box);
+    if (own.width() > finest.width() || own.height() > finest.height()) {
+        QSize target = finest.boundedTo(own);
+        if (reader.transformation() & QImageIOHandler::TransformationRotate90)
+            target.transpose();
+        reader.setScaledSize(target);
     }
     Picture picture;
-    picture.mData = std::move(data);
+    picture.mData = std::make_shared<Data>();
+    picture.mData->master = read(reader, path);
+    return picture;
+}
+
+Picture Picture::drawn(std::function<QImage(QSize)> draw) {
+    Picture picture;
+    picture.mData = std::make_shared<Data>();
+    picture.mData->draw = std::move(draw);
     return picture;
 }
 
@@ -99,17 +100,11 @@ QImage Picture::stretchedTo(QSize pixels) const {
         return {};
     if (mData->latest.size() == pixels)
         return mData->latest;
-    QImage scaled;
-    if (mData->isVector) {
-        QImageReader reader;
-        open(reader, mData->path);
-        reader.setScaledSize(pixels);
-        scaled = read(reader, mData->path);
-    } else if (mData->master.size() == pixels) {
+    if (mData->master.size() == pixels)
         return mData->master;
-    } else {
-        scaled = mData->master.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
+    const QImage scaled = mData->draw
+                              ? mData->draw(pixels)
+                              : mData->master.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (scaled.sizeInBytes() <= bytesKeptScaled)
         mData->latest = scaled;
     return scaled;

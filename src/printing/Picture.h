@@ -5,6 +5,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 namespace sheet {
@@ -15,11 +16,13 @@ class Picture {
 public:
     Picture() = default;
 
-    /// Reads a JPEG, BMP, GIF, PNG or SVG file (or resource) for a box of `box` twips.
-    /// A raster picture is decoded scaled, so that a huge one costs little memory; a vector picture is
-    /// rendered anew at each size. Raises FileNotFound for a missing file and InvalidPicture for one that
-    /// cannot be read.
+    /// Reads a JPEG, BMP, GIF or PNG file for a box of `box` twips. It is decoded scaled, so that a huge one
+    /// costs little memory. Raises FileNotFound for a missing file and InvalidPicture for one that cannot be
+    /// read.
     static Picture fromFile(const QString& path, QSizeF box);
+
+    /// A picture drawn anew at each size in pixels, such as a vector logo: sharp at any resolution.
+    static Picture drawn(std::function<QImage(QSize)> draw);
 
     /// The picture's own size in pixels, from its header. Raises as fromFile.
     static QSize ownSize(const QString& path);

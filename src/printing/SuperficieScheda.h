@@ -8,7 +8,7 @@ namespace sheet {
 inline constexpr int blocchiPerFoglio = 10;
 
 /// The surface of a card's sheet in its design state: header, ten exercise blocks with the indices 0 to 9,
-/// footer. Needs the fixed logos among the program's resources.
+/// footer.
 Surface cardSurface();
 
 /// Gives the elements of block `index` their design places around the block's frame, wherever that stands.

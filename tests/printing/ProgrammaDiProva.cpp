@@ -28,12 +28,14 @@ ProgrammaDiProva::ProgrammaDiProva() {
 
     sqlite3* store = nullptr;
     sqlite3_open((folder() + QStringLiteral("/splash.ps")).toUtf8().constData(), &store);
+    run(store, "PRAGMA synchronous = OFF; BEGIN");
     run(store, schema.readAll());
     run(store, "INSERT INTO palestra VALUES ('', '', '');"
                "INSERT INTO categorie VALUES (1, 'Generale');"
                "INSERT INTO utenti (id_utente, nome, cognome) VALUES (1, 'Anna', 'Rossi');"
                "INSERT INTO figure VALUES (7, 'QUIVR', 1, 'images\\figure\\Squat.JPG');"
-               "INSERT INTO figure VALUES (8, 'QUIVR', 2, 'images\\figure\\manca.JPG');");
+               "INSERT INTO figure VALUES (8, 'QUIVR', 2, 'images\\figure\\manca.JPG');"
+               "COMMIT");
     sqlite3_close(store);
 
     host::setProgramDirectory(folder());
