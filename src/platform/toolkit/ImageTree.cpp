@@ -70,11 +70,13 @@ void ImageTree::addNode(const QString& key, const QString& text, const QString& 
         node(parent).setExpanded(true);
     }
     nodes_.push_back(item);
+    keys_.push_back(key);
     byKey_.insert(key, item);
 }
 
 void ImageTree::clear() {
     nodes_.clear();
+    keys_.clear();
     byKey_.clear();
     QTreeWidget::clear();
 }
@@ -91,7 +93,7 @@ QString ImageTree::nodeKey(int position) const {
     if (position < 1 || position > nodeCount()) {
         runtime::raise(runtime::SubscriptOutOfRange, {}, objectName());
     }
-    return nodes_[static_cast<std::size_t>(position - 1)]->data(0, ImageTreeDelegate::KeyRole).toString();
+    return keys_[static_cast<std::size_t>(position - 1)];
 }
 
 QString ImageTree::nodeText(const QString& key) const {

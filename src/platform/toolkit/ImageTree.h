@@ -28,6 +28,8 @@ public:
     /// All nodes in the order in which they were added, from 1.
     int nodeCount() const { return static_cast<int>(nodes_.size()); }
     QString nodeKey(int position) const;
+    /// The keys in that order, flat, so that a walk over all nodes stays cheap.
+    const std::vector<QString>& nodeKeys() const { return keys_; }
     bool contains(const QString& key) const { return byKey_.contains(key); }
 
     /// Raise runtime::ElementNotFound for an unknown key.
@@ -67,6 +69,7 @@ private:
     const ImageList* images_ = nullptr;
     std::function<QString()> payload_;
     std::vector<QTreeWidgetItem*> nodes_;
+    std::vector<QString> keys_; ///< of nodes_
     QHash<QString, QTreeWidgetItem*> byKey_;
     bool below_ = false;
 };
