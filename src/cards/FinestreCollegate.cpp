@@ -1,5 +1,10 @@
 #include "cards/FinestreCollegate.h"
 
+#include "figures/SchedaPreviewFigura.h"
+#include "figures/SchedaSelezioneFIGURE.h"
+#include "templates/SchedaIntestazioneMODELLO.h"
+#include "templates/SchedeMODELLONuova.h"
+
 namespace finestre {
 
 void avanzamentoMassimo(qint16 /*massimo*/) {}
@@ -7,14 +12,30 @@ void avanzamentoMassimo(qint16 /*massimo*/) {}
 void avanzamentoPasso() {}
 
 QPointF disponiFigure(double larghezza) {
-    return {larghezza, 0};
+    constexpr double margine = 250; // twips, at the right of the selection
+    auto& figure = SchedaSelezioneFIGURE::comune();
+    figure.load();
+    figure.setLeft(larghezza - figure.outerWidth() - margine);
+    figure.setTop(0);
+    figure.show();
+    return {figure.left(), figure.top()};
 }
 
-void disponiAnteprimaFigura(QPointF /*figure*/) {}
+void disponiAnteprimaFigura(QPointF figure) {
+    auto& anteprima = SchedaPreviewFigura::comune();
+    anteprima.load();
+    anteprima.setLeft(figure.x() - 1500);
+    anteprima.setTop(figure.y() + 200);
+    anteprima.hide();
+}
 
-void disponiIntestazioneModello(const std::function<void(toolkit::Form&)>& /*disponi*/) {}
+void disponiIntestazioneModello(const std::function<void(toolkit::Form&)>& disponi) {
+    disponi(SchedaIntestazioneMODELLO::comune());
+}
 
-void scaricaIntestazioneModello() {}
+void scaricaIntestazioneModello() {
+    SchedaIntestazioneMODELLO::comune().unload();
+}
 
 bool haAnteprima() {
     return false;
@@ -23,10 +44,12 @@ bool haAnteprima() {
 void mostraAnteprima() {}
 
 bool haNuovoModello() {
-    return false;
+    return true;
 }
 
-void chiediNuovoModello() {}
+void chiediNuovoModello() {
+    SchedeMODELLONuova::comune().showModal();
+}
 
 void mostraPrincipale() {}
 
