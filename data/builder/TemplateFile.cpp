@@ -44,6 +44,11 @@ TemplateLine readLine(const QString& text, const QString& place) {
     if (line.isLibero) {
         if (line.note.isEmpty())
             throw Error(QStringLiteral("%1: a free line without a text").arg(place));
+        // The hidden fields hold what the editor leaves in an untouched row.
+        line.durata = durate().front();
+        line.frequenza = frequenze().front();
+        line.ampiezza = ampiezze().front();
+        line.modalita = modi().front();
         return line;
     }
     line.durata = oneOf(durate(), fields.at(1), place);
