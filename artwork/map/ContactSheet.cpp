@@ -43,5 +43,5 @@ QImage contactSheet(const BodyRelief& relief) {
         painter.drawText(QRect(0, one.height(), one.width(), caption), Qt::AlignCenter, codes.at(i));
         painter.restore();
     }
-    return sheet;
+    return sheet.scaledToWidth(sheet.width() * 3 / 5, Qt::SmoothTransformation);
 }
