@@ -7,6 +7,7 @@
 #include "platform/host/Settings.h"
 #include "platform/runtime/Dates.h"
 #include "platform/runtime/Error.h"
+#include "support/Errors.h"
 #include "support/FakeControls.h"
 #include "support/ScratchProgram.h"
 #include "support/ScriptedBoxes.h"
@@ -19,15 +20,6 @@ using namespace Qt::StringLiterals;
 using runtime::Variant;
 
 namespace {
-
-template <class Call> int errorOf(Call call) {
-    try {
-        call();
-    } catch (const runtime::Error& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 class Lines : public host::ReportLines {
 public:
@@ -71,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(d.DFirst(u"nome"_s, u"categorie"_s, u"id_cat=9"_s), Variant(u"ERR:Dati non trovati"_s));
         QCOMPARE(d.dMax(u"id_cat"_s, u"categorie"_s, {}), Variant(3));
         QVERIFY(d.dMax(u"id_utente"_s, u"utenti"_s, {}).isNull());
-        QCOMPARE(errorOf([&] { (void)d.dMax(u"id_utente"_s, u"utenti"_s, {}).toInt32(); }), 94);
+        QCOMPARE(errorOf([&] { return d.dMax(u"id_utente"_s, u"utenti"_s, {}).toInt32(); }), 94);
         QCOMPARE(d.DCount(u"nome"_s, u"categorie"_s, {}), qint16{3});
         QCOMPARE(d.DCount(u"nome"_s, u"categorie"_s, u"id_cat>1"_s), qint16{2});
         QVERIFY(program_->log().isEmpty());
@@ -87,12 +79,12 @@ private Q_SLOTS:
                                     u"Istruzione non riconosciuta dall’archivio (no such table"_s);
         const Variant found = d.Dlookup(u"a"_s, u"niente"_s, {});
         QCOMPARE(found, Variant(problem));
-        QCOMPARE(errorOf([&] { (void)found.toInt32(); }), 13);
+        QCOMPARE(errorOf([&] { return found.toInt32(); }), 13);
         QCOMPARE(d.DFirst(u"a"_s, u"niente"_s, {}), Variant(problem));
         QCOMPARE(d.dMax(u"a"_s, u"niente"_s, {}), Variant(problem));
         QCOMPARE(d.DCount(u"a"_s, u"niente"_s, {}), qint16{0});
         QCOMPARE(program_->log(), QStringList({u"DLOOKUP - ERR:Problemi nella connessione"_s}));
-        QCOMPARE(errorOf([&] { d.getRs(u"SELECT * FROM niente"_s); }), 1);
+        QCOMPARE(errorOf([&] { return d.getRs(u"SELECT * FROM niente"_s); }), 1);
     }
 
     void countBeyond16Bits() {
@@ -127,7 +119,7 @@ private Q_SLOTS:
         const db& d = db::comune();
         QCOMPARE(d.DCount(u"nome"_s, u"categorie"_s, {}), qint16{3});
         QFile::remove(program_->store());
-        QCOMPARE(errorOf([&] { d.getConn(); }), 14);
+        QCOMPARE(errorOf([&] { return d.getConn(); }), 14);
         boxes_->expectBeginning(host::Icon::None, u"14-Impossibile aprire l’archivio"_s);
         QVERIFY(!d.Execute(u"DELETE * FROM categorie"_s));
         boxes_->expectBeginning(host::Icon::None, u"Impossibile aprire l’archivio"_s);
@@ -185,7 +177,7 @@ private Q_SLOTS:
     void apostrophes() {
         QCOMPARE(db::correctApici(u"dell'anca ''"_s), u"dell`anca ``"_s);
         QCOMPARE(db::correctApici(QString(32767, u'\'')), QString(32767, u'`'));
-        QCOMPARE(errorOf([] { db::correctApici(QString(32768, u'x')); }), 6);
+        QCOMPARE(errorOf([] { return db::correctApici(QString(32768, u'x')); }), 6);
         QCOMPARE(db::convBooleanToDB(true) + db::convBooleanToDB(false), u"TRUEFALSE"_s);
     }
 
@@ -194,11 +186,11 @@ private Q_SLOTS:
         QCOMPARE(ModuloBase::nullToStringa(true), u"True"_s);
         QCOMPARE(ModuloBase::nullToData({}).date(), QDate(1980, 1, 1));
         QCOMPARE(ModuloBase::nullToData(QDate(2005, 12, 31)).date(), QDate(2005, 12, 31));
-        QCOMPARE(errorOf([] { ModuloBase::nullToData(u"domani"_s); }), 13);
+        QCOMPARE(errorOf([] { return ModuloBase::nullToData(u"domani"_s); }), 13);
         QCOMPARE(ModuloBase::nullToByte({}), quint8{0});
         QCOMPARE(ModuloBase::nullToByte(255), quint8{255});
         for (const int wrong : {256, 300, -1})
-            QCOMPARE(errorOf([wrong] { ModuloBase::nullToByte(wrong); }), 6);
+            QCOMPARE(errorOf([wrong] { return ModuloBase::nullToByte(wrong); }), 6);
     }
 
     void logLines() {
@@ -241,7 +233,7 @@ private Q_SLOTS:
         QCOMPARE(arrotondaSu(1.2), 2);
         QCOMPARE(arrotondaSu(2.0), 2);
         QCOMPARE(arrotondaSu(-1.2), -1);
-        QCOMPARE(errorOf([] { arrotondaSu(3e9); }), 6);
+        QCOMPARE(errorOf([] { return arrotondaSu(3e9); }), 6);
     }
 
     void searchInList_data() {

@@ -45,18 +45,13 @@ QString resolve(const QString& storedPath) {
         return {};
     // The program's directory is taken as it is: its name may well hold a backslash of its own.
     const QString home = programDirectory();
+    const auto isSeparator = [](QChar c) { return c == u'/' || c == u'\\'; };
+    const bool behindHome = storedPath.startsWith(home) &&
+                            (storedPath.size() == home.size() || isSeparator(storedPath[home.size()]));
     QString base = home;
-    QString rest = storedPath;
-    if (rest.startsWith(home)) {
-        rest = rest.mid(home.size());
-        rest.replace(u'\\', u'/');
-        if (!rest.isEmpty() && !rest.startsWith(u'/')) { // a sibling whose name merely begins the same
-            base.clear();
-            rest = storedPath;
-        }
-    }
+    QString rest = behindHome ? storedPath.mid(home.size()) : storedPath;
     rest.replace(u'\\', u'/');
-    if (base.isEmpty() || (base == home && !storedPath.startsWith(home) && QDir::isAbsolutePath(rest)))
+    if (!behindHome && storedPath.startsWith(u'/'))
         base = QStringLiteral("/");
     const QString exact = QDir::cleanPath(base + u'/' + rest);
     if (QFileInfo::exists(exact))

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLocalSocket>
-#include <QStandardPaths>
 #include <QThread>
 
 #include <unistd.h>
@@ -16,6 +15,7 @@ namespace {
 
 const QByteArray raiseWord = QByteArrayLiteral("raise\n");
 constexpr int retryMs = 50;
+constexpr qsizetype longestPlace = 50;
 
 /// A short path (sockets allow about a hundred bytes) that is the user's own and stands for the folder.
 QString nameFor(const QString& folder) {
@@ -24,8 +24,8 @@ QString nameFor(const QString& folder) {
         QCryptographicHash::hash((real.isEmpty() ? folder : real).toUtf8(), QCryptographicHash::Sha256)
             .toHex()
             .left(16);
-    QString place = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (place.isEmpty() || place.size() > 50)
+    QString place = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!QFileInfo(place).isWritable() || place.size() > longestPlace)
         place = QDir::tempPath();
     return place + QStringLiteral("/quiverdeck-%1-%2").arg(getuid()).arg(QString::fromLatin1(digest));
 }

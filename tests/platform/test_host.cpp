@@ -1,0 +1,198 @@
+#include "platform/host/Process.h"
+#include "platform/host/ProgramDirectory.h"
+#include "platform/host/Services.h"
+#include "platform/host/Settings.h"
+#include "platform/host/SingleInstance.h"
+#include "platform/host/Sound.h"
+#include "support/Errors.h"
+#include "support/ScratchProgram.h"
+#include "support/ScriptedBoxes.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A WAV file of `frames` 16-bit frames, with a block in front of the samples that has to be skipped.
+QByteArray wave(quint16 encoding, quint16 bits, int frames) {
+    const auto number = [](quint32 value, int bytes) {
+        QByteArray result;
+        for (int i = 0; i < bytes; ++i)
+            result += static_cast<char>(value >> (8 * i));
+        return result;
+    };
+    const QByteArray samples(frames * 2 * (bits / 8), '\x80');
+    const QByteArray body = QByteArray("WAVEfmt ") + number(16, 4) + number(encoding, 2) + number(2, 2) +
+                            number(8000, 4) + number(8000U * 2 * (bits / 8), 4) + number(4, 2) +
+                            number(bits, 2) + "LIST" + number(3, 4) + QByteArray("abc\0", 4) + "data" +
+                            number(static_cast<quint32>(samples.size()), 4) + samples;
+    return "RIFF" + number(static_cast<quint32>(body.size()), 4) + body;
+}
+
+} // namespace
+
+class TestHost : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() {
+        program_ = std::make_unique<ScratchProgram>();
+        touch(u"images/FolderXP.JPG"_s);
+        touch(u"images/BODYMAP/Corpo_QUA.jpg"_s);
+        touch(u"images/BODYMAP/uno.txt"_s);
+        touch(u"images/BODYMAP/UNO.txt"_s);
+    }
+    void cleanup() { program_.reset(); }
+
+    void resolve_data() {
+        QTest::addColumn<QString>("stored"); // @ stands for the program's directory
+        QTest::addColumn<QString>("file");
+        QTest::newRow("joined") << u"@\\images\\FolderXP.JPG"_s << u"@/images/FolderXP.JPG"_s;
+        QTest::newRow("other case") << u"@\\IMAGES\\folderxp.jpg"_s << u"@/images/FolderXP.JPG"_s;
+        QTest::newRow("relative") << u"images\\bodymap\\CORPO_qua.JPG"_s
+                                  << u"@/images/BODYMAP/Corpo_QUA.jpg"_s;
+        QTest::newRow("behind a backslash") << u"\\images\\FolderXP.jpg"_s << u"@/images/FolderXP.JPG"_s;
+        QTest::newRow("doubled separators") << u"@/\\images\\\\FolderXP.JPG"_s << u"@/images/FolderXP.JPG"_s;
+        QTest::newRow("the exact one of two")
+            << u"@\\images\\BodyMap\\UNO.txt"_s << u"@/images/BODYMAP/UNO.txt"_s;
+        QTest::newRow("missing file") << u"@\\Images\\Niente.JPG"_s << u"@/images/Niente.JPG"_s;
+        QTest::newRow("missing folder") << u"@\\x\\Y.JPG"_s << u"@/x/Y.JPG"_s;
+        QTest::newRow("a sibling") << u"@2\\x.JPG"_s << u"@2/x.JPG"_s;
+        QTest::newRow("the folder itself") << u"@"_s << u"@"_s;
+        QTest::newRow("empty") << QString() << QString();
+    }
+    void resolve() {
+        QFETCH(QString, stored);
+        QFETCH(QString, file);
+        QCOMPARE(host::resolve(stored.replace(u'@', program_->folder())),
+                 file.replace(u'@', program_->folder()));
+    }
+
+    void absolutePathsElsewhere() {
+        QTemporaryDir elsewhere;
+        QFile file(elsewhere.filePath(u"Logo.PNG"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(host::resolve(elsewhere.filePath(u"logo.png"_s)), file.fileName());
+        QCOMPARE(host::joined(u"\\images\\A.JPG"_s), program_->folder() + u"\\images\\A.JPG"_s);
+    }
+
+    void settings() {
+        host::saveSetting(u"General"_s, u"Path"_s, u"/è qui\\con; strani = segni"_s);
+        host::saveSetting(u"Altro"_s, u"Path"_s, u"2"_s);
+        host::saveSetting(u"General"_s, u"Path"_s, u"/nuovo, \"qui\""_s);
+        QCOMPARE(host::readSetting(u"General"_s, u"Path"_s), u"/nuovo, \"qui\""_s);
+        QCOMPARE(host::readSetting(u"Altro"_s, u"Path"_s), u"2"_s);
+        QVERIFY(QDir().mkpath(program_->settingsFolder() + u"/x/Quiver-Deck.ini"_s)); // a folder in its place
+        host::setSettingsFolder(program_->settingsFolder() + u"/x"_s);
+        QCOMPARE(errorOf([] { return host::saveSetting(u"General"_s, u"Path"_s, u"x"_s), 0; }), 75);
+    }
+
+    void waves_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("sampleBytes"); // -1: refused
+        const QByteArray good = wave(1, 16, 10);
+        QTest::newRow("16 bits") << good << 40;
+        QTest::newRow("8 bits") << wave(1, 8, 10) << 20;
+        QTest::newRow("no samples") << wave(1, 16, 0) << 0;
+        QTest::newRow("cut short") << good.chopped(5) << 32; // whole frames only
+        QTest::newRow("cut in the header") << good.left(30) << -1;
+        QTest::newRow("float") << wave(3, 32, 10) << -1;
+        QTest::newRow("24 bits") << wave(1, 24, 10) << -1;
+        QTest::newRow("no wave") << QByteArray(200, 'x') << -1;
+        QTest::newRow("empty") << QByteArray() << -1;
+        QByteArray endless = good;
+        endless.replace(16, 4, "\xff\xff\xff\xff");
+        QTest::newRow("a block beyond the end") << endless << -1;
+    }
+    void waves() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, sampleBytes);
+        const auto read = host::readWave(bytes);
+        QCOMPARE(read ? static_cast<int>(read->samples.size()) : -1, sampleBytes);
+        if (read) {
+            QCOMPARE(read->channels, 2U);
+            QCOMPARE(read->rate, 8000U);
+        }
+    }
+
+    void silentWithoutAFile() {
+        QVERIFY(!host::playAndWait(program_->folder() + u"/niente.wav"_s));
+        QVERIFY(!host::playAndWait(program_->folder() + u"/images/FolderXP.JPG"_s));
+    }
+
+    void processes() {
+        const QString mark = program_->folder() + u"/segno"_s;
+        host::startProcess(u"touch"_s, {mark});
+        QTRY_VERIFY(QFile::exists(mark));
+        host::startCommand(u"touch \"%1 due\""_s.arg(mark));
+        QTRY_VERIFY(QFile::exists(mark + u" due"_s));
+        QCOMPARE(errorOf([] { return host::startProcess(u"/nessun/programma"_s), 0; }), 53);
+        QCOMPARE(errorOf([] { return host::startCommand({}), 0; }), 53);
+    }
+
+    void oneProgramPerFolder() {
+        host::SingleInstance first(program_->folder());
+        QVERIFY(first.isFirst());
+        QSignalSpy raised(&first, &host::SingleInstance::raiseRequested);
+        // The same folder by another road.
+        const QString link = program_->settingsFolder() + u"/link"_s;
+        QVERIFY(QFile::link(program_->folder(), link));
+        bool secondIsFirst = true;
+        bool answered = false;
+        const std::unique_ptr<QThread> other(QThread::create([&] {
+            const host::SingleInstance second(link + u"/"_s);
+            secondIsFirst = second.isFirst();
+            answered = second.askToRaise();
+        }));
+        other->start();
+        QTRY_COMPARE(raised.count(), 1);
+        other->wait();
+        QVERIFY(!secondIsFirst);
+        QVERIFY(answered);
+        const host::SingleInstance elsewhere(program_->settingsFolder());
+        QVERIFY(elsewhere.isFirst());
+    }
+
+    void firstProgramThatDied() {
+        auto first = std::make_unique<host::SingleInstance>(program_->folder());
+        first.reset();
+        const host::SingleInstance next(program_->folder());
+        QVERIFY(next.isFirst());
+    }
+
+    void boxes() {
+        QCOMPARE(errorOf([] { return host::message(u"x"_s), 0; }), 5); // nothing installed
+        ScriptedBoxes scripted;
+        QStringList reports;
+        scripted.onUnexpected = [&](const QString& report) { reports += report; };
+        scripted.expect(host::Icon::Critical, u"Confermi?"_s, host::Answer::Yes);
+        // Each of these differs in one thing from what is expected.
+        host::message(u"Confermi?"_s, host::Icon::Critical);
+        (void)host::ask(u"Confermi?"_s, host::Icon::Question, host::Buttons::YesNo);
+        (void)host::ask(u"Confermi"_s, host::Icon::Critical, host::Buttons::YesNo);
+        QCOMPARE(reports.size(), 3);
+        QCOMPARE(host::ask(u"Confermi?"_s, host::Icon::Critical, host::Buttons::YesNo), host::Answer::Yes);
+        QVERIFY(!scripted.satisfied()); // for the three
+        scripted.expect(host::Icon::None, u"mai"_s);
+        QTest::ignoreMessage(QtWarningMsg, "the box never came: \"mai\"");
+        QVERIFY(!scripted.satisfied());
+        QVERIFY(scripted.satisfied());
+    }
+
+private:
+    void touch(const QString& name) {
+        const QString path = program_->folder() + u'/' + name;
+        QDir().mkpath(path.left(path.lastIndexOf(u'/')));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    }
+
+    std::unique_ptr<ScratchProgram> program_;
+};
+
+QTEST_GUILESS_MAIN(TestHost)
+#include "test_host.moc"
