@@ -41,7 +41,7 @@ bool raccoglitore::Add(const std::shared_ptr<scheda>& s) {
     return true;
 }
 
-bool raccoglitore::remove(const std::shared_ptr<scheda>& s) {
+bool raccoglitore::remove(std::shared_ptr<scheda> s) {
     for (int i = schede->Count(); i >= 1; --i) {
         if (schede->Item(i) == s)
             schede->Remove(i);

@@ -21,7 +21,7 @@ public:
     bool caricaSchede();
     bool Add(const std::shared_ptr<scheda>& s);
     /// Takes the card out of the collection and deletes it.
-    bool remove(const std::shared_ptr<scheda>& s);
+    bool remove(std::shared_ptr<scheda> s);
 
 private:
     store::Recordset chiavi() const;

@@ -41,7 +41,7 @@ bool RaccoglitoreModelli::Add(const std::shared_ptr<SchedaModello>& s) {
     return true;
 }
 
-bool RaccoglitoreModelli::remove(const std::shared_ptr<SchedaModello>& s) {
+bool RaccoglitoreModelli::remove(std::shared_ptr<SchedaModello> s) {
     for (int i = schede->Count(); i >= 1; --i) {
         if (schede->Item(i) == s)
             schede->Remove(i);

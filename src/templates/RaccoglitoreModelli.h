@@ -19,7 +19,7 @@ public:
     bool caricaSchede();
     bool Add(const std::shared_ptr<SchedaModello>& s);
     /// Takes the template out of the collection and deletes it.
-    bool remove(const std::shared_ptr<SchedaModello>& s);
+    bool remove(std::shared_ptr<SchedaModello> s);
 
 private:
     store::Recordset chiavi() const;

@@ -15,7 +15,7 @@ public:
 
     int Count() const { return static_cast<int>(items_.size()); }
 
-    const Pointer& Item(int position) const {
+    Pointer Item(int position) const {
         check(position, Count());
         return items_[static_cast<std::size_t>(position - 1)];
     }
