@@ -77,7 +77,10 @@ private:
                 !line->objectName().startsWith(QLatin1String("qt_"))) {
                 const int frame =
                     line->hasFrame() ? 2 * line->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) : 0;
-                tell(widget, line->text(), width(widget, line->text()) + lineMargins, line->width() - frame);
+                tell(widget, line->text(),
+                     width(widget, line->text()) + lineMargins + line->textMargins().left() +
+                         line->textMargins().right(),
+                     line->width() - frame);
                 height(widget, line->text(), line->height() - frame);
             }
         } else if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {

@@ -27,6 +27,7 @@ Combo::Combo(const QString& name, QWidget* parent, Kind kind) : QComboBox(parent
     setMinimumContentsLength(0);
     if (isEditable()) {
         setCompleter(nullptr);
+        lineEdit()->setTextMargins(-1, 0, -1, 0);
         // By itself the box takes a typed text that equals an item for a choice, on Enter and on leaving.
         disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
         disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);

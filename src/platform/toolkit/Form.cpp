@@ -40,6 +40,7 @@ Form::Form(const QString& name) : client_(new QWidget(this)) {
     setObjectName(name);
     client_->setObjectName(QStringLiteral("client"));
     setWindowFlags(Qt::Window);
+    setAutoFillBackground(true); // a page must not show the frame's colour
     allForms().append(this);
 }
 

@@ -44,19 +44,28 @@ QRect Label::freeRoom() const {
     QRect room = home_;
     room.setLeft(0);
     room.setRight(parentWidget()->width() - 1);
-    for (const QObject* child : parentWidget()->children()) {
-        const auto* sibling = qobject_cast<const QWidget*>(child);
-        if (sibling == nullptr || sibling == this || sibling->isHidden() || sibling->isWindow()) {
-            continue;
-        }
-        const QRect other = sibling->geometry();
+    const auto avoid = [this, &room](const QRect& other) {
         if (other.contains(home_) || other.bottom() < home_.top() || other.top() > home_.bottom()) {
-            continue;
+            return;
         }
         if (other.left() > home_.left()) {
             room.setRight(std::min(room.right(), std::max(home_.right(), other.left() - 1)));
         } else {
             room.setLeft(std::max(room.left(), std::min(home_.left(), other.right() + 1)));
+        }
+    };
+    const QWidget* inside = this;
+    for (const QWidget* parent = parentWidget(); parent != nullptr && !inside->isWindow();
+         inside = parent, parent = parent->parentWidget()) {
+        bool inFront = inside == this; // of the siblings all count, further out those stacked above
+        for (const QObject* child : parent->children()) {
+            const auto* other = qobject_cast<const QWidget*>(child);
+            if (other == inside) {
+                inFront = true;
+            } else if (other != nullptr && inFront && !other->isHidden() && !other->isWindow()) {
+                avoid(
+                    {parentWidget()->mapFrom(window(), other->mapTo(window(), QPoint(0, 0))), other->size()});
+            }
         }
     }
     return room;
@@ -84,7 +93,12 @@ void Label::fit() {
                 place.setRight(std::min(room.right(), place.right() + missing));
             }
             if (needed > place.width()) {
-                plain.setStretch(std::max(narrowestStretch, place.width() * 100 / needed));
+                const int borders = 2 * (margin() + frameWidth());
+                int stretch = std::max(narrowestStretch, place.width() * 100 / needed);
+                plain.setStretch(stretch); // widths follow it only roughly
+                while (stretch > narrowestStretch && textWidth(plain) + borders > place.width()) {
+                    plain.setStretch(--stretch);
+                }
             }
         }
     }

@@ -33,7 +33,8 @@ protected:
 
 private:
     int textWidth(const QFont& font) const;
-    /// The widest rectangle around `home` that touches no visible sibling.
+    /// The widest rectangle around `home` that touches no visible neighbour: no sibling, and nothing that
+    /// stands in front of the label's containers.
     QRect freeRoom() const;
 
     QRect home_;

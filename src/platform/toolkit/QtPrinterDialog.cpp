@@ -9,6 +9,7 @@
 #include <QPageSize>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <algorithm>
 
 namespace toolkit {
@@ -36,6 +37,18 @@ bool QtPrinterDialog::choose(QPrinter& printer, PrintRange& range) {
     dialog.setFromTo(range.from, range.to);
     if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"))) {
         file->setText(proposed);
+    }
+    // What the sheets' own order rules out: a free list of pages, odd and even ones, the order of copies.
+    for (const char* unused :
+         {"pagesRadioButton", "pagesLineEdit", "pageSetLabel", "pageSetCombo", "collate", "reverse"}) {
+        if (auto* widget = dialog.findChild<QWidget*>(QLatin1String(unused))) {
+            widget->hide();
+        }
+    }
+    for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+        if (button->text().endsWith(QLatin1String(">>"))) {
+            button->click(); // sheets and copies show at once
+        }
     }
     if (dialog.exec() != QDialog::Accepted) {
         return false;

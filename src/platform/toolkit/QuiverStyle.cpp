@@ -1,10 +1,13 @@
 #include "platform/toolkit/QuiverStyle.h"
 
 #include "platform/toolkit/ChildFrame.h"
+#include "platform/toolkit/Fonts.h"
 
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTreeView>
+#include <algorithm>
 
 namespace toolkit {
 
@@ -18,6 +21,26 @@ QColor line() {
 
 QColor titleColour(bool active) {
     return active ? QColor(0xd5, 0xe3, 0xf0) : QColor(0xe6, 0xe9, 0xed);
+}
+
+/// A disc with a sign in it, sharp on every screen.
+QIcon sign(const QString& text, const QColor& colour) {
+    QIcon icon;
+    for (const int size : {32, 48, 64, 96}) {
+        QPixmap picture(size, size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(colour);
+        painter.drawEllipse(picture.rect().adjusted(1, 1, -1, -1));
+        painter.setPen(Qt::white);
+        painter.setFont(font(QStringLiteral("Arial"), size * 0.5, true));
+        painter.drawText(picture.rect(), Qt::AlignCenter, text);
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
 }
 
 void drawChevron(QPainter* painter, const QRect& place, const QColor& colour) {
@@ -153,8 +176,28 @@ QSize QuiverStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_ToolButton) {
         result += QSize(4, 2);
+    } else if (type == CT_ItemViewItem) {
+        // Lists of lines breathe; a short list of choices must show nine of them in 139 pixels.
+        const int air = qobject_cast<const QTreeView*>(widget) != nullptr ? 6 : 2;
+        result.setHeight(std::max(result.height(), option->fontMetrics.height() + air));
     }
     return result;
+}
+
+QIcon QuiverStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                const QWidget* widget) const {
+    switch (icon) {
+    case SP_MessageBoxCritical:
+        return sign(QStringLiteral("×"), QColor(0xc0, 0x3b, 0x34));
+    case SP_MessageBoxQuestion:
+        return sign(QStringLiteral("?"), accent());
+    case SP_MessageBoxWarning:
+        return sign(QStringLiteral("!"), QColor(0xd9, 0x8c, 0x1f));
+    case SP_MessageBoxInformation:
+        return sign(QStringLiteral("i"), accent());
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }
 
 void QuiverStyle::drawTitleBar(const QStyleOptionComplex* option, QPainter* painter,
