@@ -8,6 +8,11 @@
 
 namespace toolkit {
 
+namespace {
+/// How far a wrapped caption may grow below its place; pixels.
+constexpr int wrapAllowance = 4;
+} // namespace
+
 Label::Label(const QString& name, const QString& caption, QWidget* parent) : QLabel(caption, parent) {
     setObjectName(name);
     setAlignment(Qt::AlignLeft | Qt::AlignTop);
@@ -38,6 +43,11 @@ int Label::textWidth(const QFont& font) const {
     return QFontMetrics(font)
         .size(Qt::TextSingleLine | (buddy() ? Qt::TextShowMnemonic : 0), text().trimmed())
         .width();
+}
+
+QRect Label::wrappedBox(int width) const {
+    return QFontMetrics(font()).boundingRect(QRect(0, 0, width, 10000), int(alignment()) | Qt::TextWordWrap,
+                                             text());
 }
 
 QRect Label::freeRoom() const {
@@ -102,6 +112,10 @@ void Label::fit() {
             }
         }
     }
+    if (wordWrap()) { // a font taller than the design's by a pixel or two
+        const int needed = wrappedBox(place.width() - 2 * (margin() + frameWidth())).height();
+        place.setHeight(std::clamp(needed, place.height(), place.height() + wrapAllowance));
+    }
     if (plain != font()) {
         setFont(plain);
     }
@@ -112,8 +126,7 @@ void Label::fit() {
 
 bool Label::isWhole() const {
     if (wordWrap()) {
-        const QRect box = QFontMetrics(font()).boundingRect(QRect(0, 0, contentsRect().width(), 10000),
-                                                            int(alignment()) | Qt::TextWordWrap, text());
+        const QRect box = wrappedBox(contentsRect().width());
         return box.width() <= contentsRect().width() && box.height() <= contentsRect().height();
     }
     return textWidth(font()) <= contentsRect().width();

@@ -33,6 +33,8 @@ protected:
 
 private:
     int textWidth(const QFont& font) const;
+    /// What the wrapped text takes of a place this wide; pixels.
+    QRect wrappedBox(int width) const;
     /// The widest rectangle around `home` that touches no visible neighbour: no sibling, and nothing that
     /// stands in front of the label's containers.
     QRect freeRoom() const;

@@ -289,7 +289,7 @@ private Q_SLOTS:
         QCOMPARE(errorOf([&] { box.load(folder.filePath("none.jpg")); }), int(runtime::FileNotFound));
         QCOMPARE(errorOf([&] { box.load(folder.filePath("bad.jpg")); }), 481);
         QVERIFY(box.isEmpty());
-        box.load(folder.filePath("figura.bmp").replace('/', '\\'));
+        box.load(folder.path() + "\\figura.bmp");
         QCOMPARE(box.pictureSize(), QSizeF(600, 300));
         ImageList list({30, 30});
         list.add("a", folder.filePath("Figura.BMP"));
@@ -349,10 +349,15 @@ private Q_SLOTS:
     void captionsRunIntoFreeRoomThenNarrow() {
         auto* free = new Label("free", "Frequenza allenamento settimanale:", form_->client());
         place(*free, 120, 0, 900, 255);
+        auto* wrapped = new Label("wrapped", "Fare click sul gruppo muscolare di interesse", form_->client());
+        wrapped->setFont(toolkit::font("Verdana", 8.25));
+        wrapped->setWordWrap(true);
+        place(*wrapped, 120, 1500, 3135, 375);
         auto* shut = new Label("shut", "Frequenza allenamento:", form_->client());
         auto* field = new TextBox("field", form_->client());
         show();
         QVERIFY(free->isWhole());
+        QVERIFY(wrapped->isWhole());
         QCOMPARE(free->font().stretch(), int(QFont::Unstretched));
         const int needed = shut->fontMetrics().horizontalAdvance(shut->text());
         place(*field, 120 + toTwips(needed * 0.92), 600, 900, 285);
