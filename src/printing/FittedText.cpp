@@ -6,7 +6,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace sheet {
@@ -17,7 +16,10 @@ constexpr double twipsPerPoint = 20;
 
 /// Narrower or smaller than this a text no longer looks like its neighbours.
 constexpr double leastScale = 0.85;
-constexpr std::array wrappedScales{1.0, 0.95, 0.9, leastScale};
+
+/// The smallest print still read with ease; a longer text gets it before any word is lost.
+constexpr double leastPoints = 5.7;
+constexpr double scaleStep = 0.05;
 
 /// A single line that is still too wide is set smaller down to this before it is cut.
 constexpr double leastSingleScale = 0.6;
@@ -156,12 +158,14 @@ bool FittedText::breakLines(const QString& text, qsizetype most) {
 }
 
 void FittedText::fitWrapped(const QString& text) {
-    const double smallest = mElement.font.points * twipsPerPoint * leastScale;
+    const double leastWrapped = std::min(leastScale, leastPoints / mElement.font.points);
+    const double smallest = mElement.font.points * twipsPerPoint * leastWrapped;
     const double linesAtMost = usableHeight() / smallest + 1;
     const auto worthShaping = qsizetype(linesAtMost * (usableWidth() / (smallest * narrowestLetter) + 1));
     const QString beginning = text.left(worthShaping);
-    for (const double scale : wrappedScales) {
-        useScale(scale);
+    const int steps = int(std::floor((1 - leastWrapped) / scaleStep + 1e-6));
+    for (int step = 0; step <= steps; ++step) {
+        useScale(1 - step * scaleStep);
         const auto most = std::max<qsizetype>(1, qsizetype((usableHeight() + tolerance) / mLineHeight));
         if (breakLines(beginning, most) && beginning.size() == text.size())
             return;

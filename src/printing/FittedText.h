@@ -19,7 +19,7 @@ QFont pageFont(const Font& font, double sizeScale = 1);
 ///
 /// A single line too wide for its box is drawn narrower, down to 85 %, then smaller, and ends with "…" only
 /// when even that is not enough; it is never cut at the box's height. A wrapped text too long for its box is
-/// set smaller, down to 85 %, and then cut at a whole line that ends with "…".
+/// set smaller, down to 85 % or 5.7 points, and then cut at a whole line that ends with "…".
 class FittedText {
 public:
     /// `element` must outlive this object.

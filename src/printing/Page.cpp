@@ -75,11 +75,11 @@ void Page::scriviEsercizi() {
 
 void Page::scriviEsercizioLibero(const Esercizio& esercizio, int index) {
     mostraBlocco(index, false);
-    const sheet::Element& frame = el("cornice", index);
-    const sheet::Element& number = el("nprog", index);
+    sheet::Element& frame = el("cornice", index);
+    sheet::Element& number = el("nprog", index);
     sheet::Element& note = el("note", index);
-    el("nprog", index).visible = true;
-    el("cornice", index).visible = true;
+    number.visible = true;
+    frame.visible = true;
     note.visible = true;
     note.text = esercizio.note;
     // The number's width serves as its height here.
@@ -106,6 +106,7 @@ void Page::scriviEsercizio(const Esercizio& esercizio, int index) {
     mode.text = QStringLiteral("Modalità: ") + esercizio.modalita + u' ' + esercizio.peso;
     sheet::Element& note = el("note", index);
     note.top = mode.top + mode.height - 30;
+    mode.usableHeight = note.top - mode.top;
     note.left = mode.left;
     note.width = mode.width;
     note.height = 600;

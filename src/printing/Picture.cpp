@@ -14,7 +14,7 @@ namespace {
 constexpr double finestRatio = 4;
 
 /// A scaled copy up to this size (a screen's) is kept with its picture; the printer's are made and dropped.
-constexpr qsizetype bytesKeptScaled = 512 * 1024;
+constexpr qsizetype bytesKeptScaled = 524'288;
 
 /// A picture that no box of ours could need in full is refused above this many pixels if its format
 /// cannot be decoded scaled (GIF, BMP): 100 megapixels.
@@ -102,9 +102,9 @@ QImage Picture::stretchedTo(QSize pixels) const {
         return mData->latest;
     if (mData->master.size() == pixels)
         return mData->master;
-    const QImage scaled = mData->draw
-                              ? mData->draw(pixels)
-                              : mData->master.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QImage scaled = mData->draw
+                        ? mData->draw(pixels)
+                        : mData->master.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (scaled.sizeInBytes() <= bytesKeptScaled)
         mData->latest = scaled;
     return scaled;

@@ -16,9 +16,9 @@ enum class Role { Number, Figure, Label, Value, Wrapped, Note };
 
 /// One element of an exercise block; the place is an offset from the frame.
 struct BlockPart {
-    const char* name;
+    const char* name = "";
     QRectF box;
-    Role role;
+    Role role = Role::Label;
     const char* text = "";
 };
 

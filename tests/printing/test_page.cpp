@@ -187,7 +187,9 @@ void TestPage::longValues_data() {
     }
     QTest::newRow("a phrase for a weight")
         << QStringLiteral("Dinamico a carico aggiuntivo")
-        << QStringLiteral("manubri da 10 kg e cintura zavorrata da 20 kg") << false;
+        << QStringLiteral("manubri da 10 kg e cintura zavorrata da 20 kg") << true;
+    QTest::newRow("a sentence for a weight")
+        << QStringLiteral("Combinata") << QStringLiteral("a scelta dell’atleta, ").repeated(20) << false;
 }
 
 void TestPage::longValues() {

@@ -112,10 +112,10 @@ void TestSurface::fitWrapped_data() {
     QTest::newRow("a little long") << QStringLiteral(
                                           "Modalità: Dinamico a carico aggiuntivo, con cintura zavorrata")
                                    << 2 << true << false;
-    QTest::newRow("too long") << longText << 2 << true << true;
-    QTest::newRow("too many lines") << QStringLiteral("uno\r\ndue\r\ntre\r\nquattro") << 2 << true << true;
-    QTest::newRow("no blanks") << QString(300, u'x') << 2 << true << true;
-    QTest::newRow("as long as a field takes") << longText.repeated(160) << 2 << true << true;
+    QTest::newRow("too long") << longText << 3 << true << true;
+    QTest::newRow("too many lines") << QStringLiteral("uno\r\ndue\r\ntre\r\nquattro") << 3 << true << true;
+    QTest::newRow("no blanks") << QString(300, u'x') << 3 << true << true;
+    QTest::newRow("as long as a field takes") << longText.repeated(160) << 3 << true << true;
 }
 
 void TestSurface::fitWrapped() {
