@@ -3,6 +3,8 @@
 #include "core/ModuloBase.h"
 #include "platform/runtime/Conversions.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 raccoglitore::raccoglitore()
@@ -42,10 +44,12 @@ bool raccoglitore::Add(const std::shared_ptr<scheda>& s) {
 }
 
 bool raccoglitore::remove(std::shared_ptr<scheda> s) {
+    // Held here: the caller's may be the collection's own.
+    const std::shared_ptr<scheda> carta = std::move(s);
     for (int i = schede->Count(); i >= 1; --i) {
-        if (schede->Item(i) == s)
+        if (schede->Item(i) == carta)
             schede->Remove(i);
     }
-    s->Elimina(0);
+    carta->Elimina(0);
     return true;
 }

@@ -3,6 +3,8 @@
 #include "core/ModuloBase.h"
 #include "platform/runtime/Conversions.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 RaccoglitoreModelli::RaccoglitoreModelli()
@@ -42,10 +44,12 @@ bool RaccoglitoreModelli::Add(const std::shared_ptr<SchedaModello>& s) {
 }
 
 bool RaccoglitoreModelli::remove(std::shared_ptr<SchedaModello> s) {
+    // Held here: the caller's may be the collection's own.
+    const std::shared_ptr<SchedaModello> modello = std::move(s);
     for (int i = schede->Count(); i >= 1; --i) {
-        if (schede->Item(i) == s)
+        if (schede->Item(i) == modello)
             schede->Remove(i);
     }
-    s->Elimina(0);
+    modello->Elimina(0);
     return true;
 }
