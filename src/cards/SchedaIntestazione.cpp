@@ -108,6 +108,9 @@ void SchedaIntestazione::prepara() {
     }
     Text1.setText(QStringLiteral("Selezionare i giorni..."));
     Text1.setReadOnly(true);
+    QFont stretto = Text1.font(); // the text is as wide as its box
+    stretto.setStretch(95);
+    Text1.setFont(stretto);
     Text1.setFocusPolicy(Qt::NoFocus);
     apriGGAllen.setPicture(artwork::icona(objectName(), apriGGAllen.objectName()));
     apriGGAllen.setToolTip(QStringLiteral("Giorni di allenamento"));

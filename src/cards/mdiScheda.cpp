@@ -62,6 +62,7 @@ mdiScheda::mdiScheda()
 mdiScheda::~mdiScheda() = default;
 
 void mdiScheda::onLoad() {
+    ImageListToolBar.clear();
     ImageListToolBar.setImageSize(latoPulsante);
     for (int i = 1; i <= ToolbarSchede.count(); ++i) {
         if (!ToolbarSchede.isSeparator(i)) {
