@@ -44,7 +44,7 @@ QByteArray IconTheme::source(const QString& name, int side, int& drawnFor) const
         QFile file(folder_.filePath(QStringLiteral("actions/%1/%2.svg").arg(size).arg(name)));
         if (!file.open(QIODevice::ReadOnly))
             continue;
-        const QByteArray svg = file.readAll();
+        QByteArray svg = file.readAll();
         // A drawing without style classes is a full-colour picture, which would stand out from the family.
         if (svg.contains("ColorScheme-")) {
             drawnFor = size;

@@ -37,7 +37,8 @@ QImage contactSheet(const BodyRelief& relief) {
     painter.setFont(font);
     for (int i = 0; i < codes.size(); ++i) {
         painter.save();
-        painter.translate((i % columns) * one.width(), (i / columns) * (one.height() + caption));
+        const int row = i / columns;
+        painter.translate((i % columns) * one.width(), row * (one.height() + caption));
         painter.drawImage(0, 0, relief.picture(codes.at(i)));
         drawAreas(painter, codes.at(i), static_cast<double>(one.width()) / larghezzaMappa);
         painter.drawText(QRect(0, one.height(), one.width(), caption), Qt::AlignCenter, codes.at(i));

@@ -45,23 +45,27 @@ Field Field::blurred(int radius) const {
 }
 
 void Field::blurLines(int radius, bool across) {
-    const int lines = across ? area_.height() : area_.width();
-    const int length = across ? area_.width() : area_.height();
-    const size_t step = across ? 1 : static_cast<size_t>(area_.width());
+    const auto width = static_cast<size_t>(area_.width());
+    const auto height = static_cast<size_t>(area_.height());
+    const auto reach = static_cast<size_t>(radius);
+    const size_t lines = across ? height : width;
+    const size_t length = across ? width : height;
+    const size_t step = across ? 1 : width;
     const float share = 1.0F / static_cast<float>(2 * radius + 1);
-    std::vector<float> source(static_cast<size_t>(length));
-    for (int line = 0; line < lines; ++line) {
-        const size_t first = across ? static_cast<size_t>(line) * area_.width() : static_cast<size_t>(line);
-        for (int i = 0; i < length; ++i)
-            source[static_cast<size_t>(i)] = values_[first + step * i];
+    std::vector<float> source(length);
+    for (size_t line = 0; line < lines; ++line) {
+        const size_t first = across ? line * width : line;
+        for (size_t i = 0; i < length; ++i)
+            source[i] = values_[first + step * i];
+        // The sum of a window that slides along the line; beyond its ends there is 0.
         float sum = 0;
-        for (int i = 0; i < std::min(radius, length); ++i)
-            sum += source[static_cast<size_t>(i)];
-        for (int i = 0; i < length; ++i) {
-            if (i + radius < length)
-                sum += source[static_cast<size_t>(i + radius)];
-            if (i - radius - 1 >= 0)
-                sum -= source[static_cast<size_t>(i - radius - 1)];
+        for (size_t i = 0; i < std::min(reach, length); ++i)
+            sum += source[i];
+        for (size_t i = 0; i < length; ++i) {
+            if (i + reach < length)
+                sum += source[i + reach];
+            if (i > reach)
+                sum -= source[i - reach - 1];
             values_[first + step * i] = std::max(0.0F, sum * share); // rounding may leave the sum below 0
         }
     }

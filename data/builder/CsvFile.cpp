@@ -53,7 +53,7 @@ QString readText(const QString& path) {
 }
 
 QStringList readLines(const QString& path) {
-    const QStringList lines = readText(path).split(QLatin1Char('\n'));
+    QStringList lines = readText(path).split(QLatin1Char('\n'));
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (!lines.at(i).startsWith(QLatin1Char('#')) && lines.at(i).contains(QLatin1Char('\'')))
             throw Error(
