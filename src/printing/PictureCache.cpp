@@ -8,7 +8,7 @@ namespace sheet {
 namespace {
 
 /// About eighteen figures at the printer's detail: two sheets.
-constexpr qsizetype kilobytesKept = 24 * 1024;
+constexpr qsizetype kilobytesKept = 24576;
 
 } // namespace
 

@@ -28,7 +28,7 @@ constexpr std::array pictures{
 
 struct Explanation {
     QRectF box;
-    const char* text;
+    const char* text = "";
 };
 
 // The wording is that of the sheet the gyms know, down to its oddities.

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace sheet {
 
@@ -45,9 +44,8 @@ const Element& Surface::element(const QString& name, int index) const {
 
 const Element* Surface::elementAt(QPointF point) const {
     const auto hit = [point](const Element& e) { return e.visible && e.rect().contains(point); };
-    const auto reversed = std::views::reverse(mElements);
-    const auto found = std::ranges::find_if(reversed, hit);
-    return found == reversed.end() ? nullptr : &*found;
+    const auto found = std::find_if(mElements.rbegin(), mElements.rend(), hit);
+    return found == mElements.rend() ? nullptr : &*found;
 }
 
 void Surface::load(Element& element, const QString& path) const {

@@ -6,13 +6,13 @@
 #include <QStringList>
 
 QString percorsoLogo(const QString& stored) {
-    const QString file = host::resolve(stored);
+    QString file = host::resolve(stored);
     if (QFileInfo(file).isFile())
         return file;
     const QStringList parts = QString(stored).replace(u'\\', u'/').split(u'/', Qt::SkipEmptyParts);
     if (parts.size() < 2 ||
         parts.at(parts.size() - 2).compare(QLatin1String("images"), Qt::CaseInsensitive) != 0)
         return file;
-    const QString moved = host::resolve(host::joined(QStringLiteral("\\images\\") + parts.last()));
+    QString moved = host::resolve(host::joined(QStringLiteral("\\images\\") + parts.last()));
     return QFileInfo(moved).isFile() ? moved : file;
 }
