@@ -3,14 +3,12 @@
 #include "CsvFile.h"
 #include "Database.h"
 #include "TemplateFile.h"
+#include "UnfinishedFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QHash>
 #include <QRegularExpression>
 
-#include <algorithm>
-#include <cstdio>
 #include <limits>
 
 namespace catalogue {
@@ -193,18 +191,16 @@ QString storedPicture(const QString& code) {
 }
 
 void buildStore(const Sources& sources, const QString& target) {
-    const QString unfinished = target + QStringLiteral(".new");
-    QFile::remove(unfinished);
+    UnfinishedFile file(target);
     {
-        Database database(unfinished, Database::Mode::Create);
+        Database database(file.path(), Database::Mode::Create);
         // Half a file is thrown away anyhow, so nothing waits for the disk.
         database.execute(QStringLiteral("PRAGMA synchronous = OFF; BEGIN"));
         database.execute(readText(sources.folder + QStringLiteral("/schema.sql")));
         Filler(database, sources.folder).fill();
         database.execute(QStringLiteral("COMMIT"));
     }
-    if (std::rename(QFile::encodeName(unfinished).constData(), QFile::encodeName(target).constData()) != 0)
-        throw Error(QStringLiteral("%1 cannot be written").arg(target));
+    file.finish();
 }
 
 } // namespace catalogue

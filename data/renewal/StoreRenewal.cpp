@@ -2,30 +2,14 @@
 
 #include "CsvFile.h"
 #include "Database.h"
+#include "UnfinishedFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <cstdio>
-
 namespace catalogue {
 
 namespace {
-/// Removes the unfinished copy, whatever happens.
-class Copy {
-public:
-    explicit Copy(const QString& path) : path_(path) { QFile::remove(path_); }
-    ~Copy() {
-        QFile::remove(path_);
-        QFile::remove(path_ + QStringLiteral("-journal"));
-    }
-    Copy(const Copy&) = delete;
-    Copy& operator=(const Copy&) = delete;
-
-private:
-    QString path_;
-};
-
 void checkSchema(Database& fresh, Database& inUse) {
     const auto version = [](Database& database) {
         return database.scalar(QStringLiteral("PRAGMA user_version"));
@@ -114,8 +98,7 @@ bool renewStore(const QString& fresh, const QString& inUse) {
     const QString real = QFileInfo(inUse).canonicalFilePath(); // a link stays a link
     if (real.isEmpty())
         throw Error(QStringLiteral("%1 does not exist").arg(inUse));
-    const QString path = real + QStringLiteral(".new");
-    const Copy copy(path);
+    UnfinishedFile copy(real);
     // Undoes what a crash left half written, and keeps writers out until the copy has taken the name. Readers
     // may go on, and the copy is read through a connection of its own: one that writes cannot be copied from.
     Database guard(real, Database::Mode::Existing);
@@ -125,14 +108,13 @@ bool renewStore(const QString& fresh, const QString& inUse) {
     {
         Database freshStore(fresh, Database::Mode::ReadOnly);
         checkSchema(freshStore, source);
-        Database target(path, Database::Mode::Create);
+        Database target(copy.path(), Database::Mode::Create);
         target.copyFrom(source);
         changed = renewCopy(target, fresh);
     }
     if (changed) {
-        QFile::setPermissions(path, QFile::permissions(real));
-        if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(real).constData()) != 0)
-            throw Error(QStringLiteral("%1 cannot be replaced").arg(real));
+        QFile::setPermissions(copy.path(), QFile::permissions(real));
+        copy.finish();
     }
     return changed;
 }
