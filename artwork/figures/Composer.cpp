@@ -91,6 +91,28 @@ void layGhost(SampleMap& picture, const SampleMap& ghost) {
     }
 }
 
+/// The way a joint takes from one position to the other, shifted as the arrow asks. An arrow with one head points to
+/// the position that is trained.
+std::vector<Vec3> roadOf(const Arrow& arrow, const Pose& pose, const Solver& solver, const Skeleton& first,
+                         const Skeleton& second, const Camera& camera) {
+    constexpr int steps = 12;
+    std::vector<Vec3> road;
+    for (int i = 0; i <= steps; ++i) {
+        const bool end = i == 0 || i == steps;
+        if (!end && !Solver::alike(pose.body, pose.second)) {
+            continue; // a limb changes its hold: the road goes straight
+        }
+        const float t = static_cast<float>(i) / steps;
+        const Vec3 p = end ? (i == 0 ? first : second).joint(arrow.point)
+                           : solver.solve(Solver::between(pose.body, pose.second, t)).joint(arrow.point);
+        road.push_back(p + camera.right * arrow.dx + camera.up * arrow.dy);
+    }
+    if (!arrow.both) {
+        std::reverse(road.begin(), road.end());
+    }
+    return road;
+}
+
 } // namespace
 
 QImage Composer::draw(const Pose& pose, std::uint32_t trained, int wide, int high, int fine) {
@@ -127,6 +149,13 @@ QImage Composer::draw(const Pose& pose, std::uint32_t trained, int wide, int hig
     bounds.take(body, camera);
     bounds.take(things, camera);
     bounds.take(ghostBody, camera);
+    std::vector<std::vector<Vec3>> roads;
+    for (const auto& arrow : pose.arrows) {
+        const auto& road = roads.emplace_back(roadOf(arrow, pose, solver, skeleton, moved, camera));
+        for (const Vec3& p : road) {
+            bounds.take(p, 7, camera);
+        }
+    }
     fit(camera, bounds, small);
 
     const Joints joints = Joints::of(skeleton);
@@ -157,19 +186,12 @@ QImage Composer::draw(const Pose& pose, std::uint32_t trained, int wide, int hig
     ground(image, camera, all, joints);
     Lines::reduce(picture, fine, image);
 
-    for (const auto& arrow : pose.arrows) {
-        constexpr int steps = 12;
+    for (std::size_t i = 0; i < roads.size(); ++i) {
         std::vector<QPointF> road;
-        for (int i = 0; i <= steps; ++i) {
-            const float t = static_cast<float>(i) / steps;
-            if (i > 0 && i < steps && !Solver::alike(pose.body, pose.second)) {
-                continue; // a limb changes its hold: the road goes straight
-            }
-            const Skeleton at = i == 0 ? skeleton : i == steps ? moved : solver.solve(Solver::between(pose.body, pose.second, t));
-            const Vec3 p = at.joint(arrow.point) + camera.right * arrow.dx + camera.up * arrow.dy;
+        for (const Vec3& p : roads[i]) {
             road.emplace_back(camera.x(p), camera.y(p));
         }
-        Signs::arrow(image, road, arrow.both);
+        Signs::arrow(image, road, pose.arrows[i].both);
     }
     if (pose.forbidden) {
         Signs::forbidden(image);

@@ -67,7 +67,17 @@ void options(const Words& words, std::size_t index, const std::map<std::string, 
 } // namespace
 
 Pose PoseFile::read(const std::filesystem::path& file) {
-    return parse(contents(file), file.filename().string(), file.parent_path());
+    std::vector<std::filesystem::path> files;
+    return read(file, files);
+}
+
+Pose PoseFile::read(const std::filesystem::path& file, std::vector<std::filesystem::path>& files) {
+    PoseFile reader(file.parent_path());
+    reader.pose_.name = file.filename().string();
+    reader.statements(contents(file), reader.pose_.name, 0);
+    files.push_back(file);
+    files.insert(files.end(), reader.files_.begin(), reader.files_.end());
+    return reader.pose_;
 }
 
 Pose PoseFile::parse(const std::string& text, const std::string& name, const std::filesystem::path& folder) {
@@ -96,6 +106,7 @@ void PoseFile::statements(const std::string& text, const std::string& name, int 
             }
             const auto file = folder_ / (words[1] + ".pose");
             statements(contents(file), file.filename().string(), depth + 1);
+            files_.push_back(file);
             continue;
         }
         try {

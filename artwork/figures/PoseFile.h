@@ -6,12 +6,15 @@
 
 namespace figures {
 
-/// Reads pose files: one statement a line, "#" starts a comment. `docs` of the language: artwork/poses/README.md.
+/// Reads pose files: one statement a line, "#" starts a comment. The language: artwork/poses/README.md.
 class PoseFile {
 public:
     /// Reads `file`; a statement "like NAME" first reads NAME.pose of the same folder. Throws PoseError with file
     /// and line for whatever it does not understand.
     static Pose read(const std::filesystem::path& file);
+
+    /// The same, adding every file that was read to `files`.
+    static Pose read(const std::filesystem::path& file, std::vector<std::filesystem::path>& files);
 
     /// Reads a pose from a text; `folder` is where "like" looks.
     static Pose parse(const std::string& text, const std::string& name, const std::filesystem::path& folder = {});
@@ -29,6 +32,7 @@ private:
     BodyPose& current() { return pose_.hasSecond ? pose_.second : pose_.body; }
 
     std::filesystem::path folder_;
+    std::vector<std::filesystem::path> files_;
     Pose pose_;
 };
 

@@ -147,7 +147,7 @@ Shapes Room::held(const Pose& pose, const Skeleton& skeleton) const {
                 const Vec3 anchor = figure_.point({ahead, outward(side) * (a.at.y > 0 ? a.at.y : 22.0F), 0})
                                     + Vec3{0, 0, support("plate").frame.origin.z + 0.4F};
                 const float l = length(grip - anchor);
-                if (l < 20 || l > 165) {
+                if (l < 20 || l > 215) {
                     throw PoseError("a strap would be " + std::to_string(static_cast<int>(l)) + " cm long");
                 }
                 add(anchor, grip, 1.0F, Material::Strap);
