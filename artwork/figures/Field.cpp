@@ -12,6 +12,9 @@ inline float join(float a, float b, float k) {
 /// How softly the shapes of one group run into each other, in cm; by Group.
 constexpr std::array<float, 12> softness = {3.2F, 1.6F, 1.6F, 1.6F, 0.45F, 0.45F, 1.8F, 1.8F, 1.2F, 1.2F, 1.0F, 0.01F};
 
+/// No two groups feel each other over a greater distance.
+constexpr float farthestJoin = 3.6F;
+
 /// Softness between a limb and the trunk: only near the joint.
 float nearJoint(const Vec3& p, const Vec3& joint, float from, float to) {
     const Vec3 v = p - joint;
@@ -33,6 +36,9 @@ float Field::distance(const List& shapes, const Joints& joints, const Vec3& p) {
         const float k = softness[static_cast<std::size_t>(group)];
         float d = 1e9F;
         for (; i < shapes.size() && shapes[i]->group == group; ++i) {
+            if (d < 1e8F && shapes[i]->beyond(p, std::min(d + k, all + farthestJoin))) {
+                continue;
+            }
             const float one = shapes[i]->distance(p);
             d = group == Group::Object ? std::min(d, one) : join(d, one, k);
         }

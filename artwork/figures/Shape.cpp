@@ -23,6 +23,8 @@ Shape Shape::cone(const Vec3& a, float ra, const Vec3& b, float rb) {
     s.rr_ = ra - rb;
     s.a2_ = s.l2_ - s.rr_ * s.rr_;
     s.il2_ = s.l2_ > 0 ? 1.0F / s.l2_ : 0;
+    s.middle_ = mix(a, b, 0.5F);
+    s.ball_ = std::sqrt(s.l2_) / 2 + s.reach;
     return s;
 }
 
@@ -32,6 +34,8 @@ Shape Shape::box(const Frame& frame, const Vec3& half, float edge) {
     s.frame = frame;
     s.half = half - Vec3{edge, edge, edge};
     s.ra = edge;
+    s.middle_ = frame.origin;
+    s.ball_ = length(half);
     // the longest axis is the segment, the other two the reach
     if (half.x >= half.y && half.x >= half.z) {
         s.a = frame.point({-half.x, 0, 0});
@@ -53,35 +57,6 @@ void Shape::cut(const Vec3& normal, float limit) {
     hasCut_ = true;
     cutNormal_ = normal;
     cutLimit_ = limit;
-}
-
-float Shape::distance(const Vec3& p) const {
-    float d = 0;
-    if (isBox) {
-        const Vec3 q = frame.local(p);
-        const Vec3 e{std::fabs(q.x) - half.x, std::fabs(q.y) - half.y, std::fabs(q.z) - half.z};
-        const Vec3 o{std::max(e.x, 0.0F), std::max(e.y, 0.0F), std::max(e.z, 0.0F)};
-        d = length(o) + std::min(std::max({e.x, e.y, e.z}), 0.0F) - ra;
-    } else if (a2_ <= 0) { // one ball swallows the other
-        d = ra >= rb ? length(p - a) - ra : length(p - b) - rb;
-    } else {
-        const Vec3 pa = p - a;
-        const float y = dot(pa, ba_);
-        const float z = y - l2_;
-        const Vec3 across = pa * l2_ - ba_ * y;
-        const float x2 = dot(across, across);
-        const float y2 = y * y * l2_;
-        const float z2 = z * z * l2_;
-        const float k = (rr_ > 0 ? 1.0F : -1.0F) * rr_ * rr_ * x2;
-        if ((z > 0 ? 1.0F : -1.0F) * a2_ * z2 > k) {
-            d = std::sqrt(x2 + z2) * il2_ - rb;
-        } else if ((y > 0 ? 1.0F : -1.0F) * a2_ * y2 < k) {
-            d = std::sqrt(x2 + y2) * il2_ - ra;
-        } else {
-            d = (std::sqrt(x2 * a2_ * il2_) + y * rr_) * il2_ - ra;
-        }
-    }
-    return hasCut_ ? std::max(d, dot(cutNormal_, p) - cutLimit_) : d;
 }
 
 } // namespace figures

@@ -54,7 +54,13 @@ struct Shape {
 
     /// Signed distance from `p`, negative inside.
     float distance(const Vec3& p) const;
-    /// A ball round the whole shape is not tight enough for tiles: the shape lies within `reach` of segment a-b.
+    /// Whether the shape is surely farther than `bound` from `p`; a quick look at the ball round it.
+    bool beyond(const Vec3& p, float bound) const {
+        const Vec3 v = p - middle_;
+        const float r = ball_ + bound;
+        return r < 0 || dot(v, v) > r * r;
+    }
+    /// The shape lies within `reach` of the segment a-b.
     Vec3 a;
     Vec3 b;
     float reach = 0;
@@ -65,12 +71,43 @@ struct Shape {
     Vec3 half;
 
 private:
+    Vec3 middle_;
+    float ball_ = 0;
     bool hasCut_ = false;
     Vec3 cutNormal_;
     float cutLimit_ = 0;
     Vec3 ba_;
     float l2_ = 0, rr_ = 0, a2_ = 0, il2_ = 0;
 };
+
+inline float Shape::distance(const Vec3& p) const {
+    float d = 0;
+    if (isBox) {
+        const Vec3 q = frame.local(p);
+        const Vec3 e{std::fabs(q.x) - half.x, std::fabs(q.y) - half.y, std::fabs(q.z) - half.z};
+        const Vec3 o{std::max(e.x, 0.0F), std::max(e.y, 0.0F), std::max(e.z, 0.0F)};
+        d = length(o) + std::min(std::max({e.x, e.y, e.z}), 0.0F) - ra;
+    } else if (a2_ <= 0) { // one ball swallows the other
+        d = ra >= rb ? length(p - a) - ra : length(p - b) - rb;
+    } else {
+        const Vec3 pa = p - a;
+        const float y = dot(pa, ba_);
+        const float z = y - l2_;
+        const Vec3 across = pa * l2_ - ba_ * y;
+        const float x2 = dot(across, across);
+        const float y2 = y * y * l2_;
+        const float z2 = z * z * l2_;
+        const float k = (rr_ > 0 ? 1.0F : -1.0F) * rr_ * rr_ * x2;
+        if ((z > 0 ? 1.0F : -1.0F) * a2_ * z2 > k) {
+            d = std::sqrt(x2 + z2) * il2_ - rb;
+        } else if ((y > 0 ? 1.0F : -1.0F) * a2_ * y2 < k) {
+            d = std::sqrt(x2 + y2) * il2_ - ra;
+        } else {
+            d = (std::sqrt(x2 * a2_ * il2_) + y * rr_) * il2_ - ra;
+        }
+    }
+    return hasCut_ ? std::max(d, dot(cutNormal_, p) - cutLimit_) : d;
+}
 
 using Shapes = std::vector<Shape>;
 
