@@ -107,12 +107,18 @@ void Form::setTop(double twips) {
 
 void Form::setOuterSize(double width, double height) {
     sized_ = true;
+    inner_ = QSize();
     resizeOuter({toPixels(width), toPixels(height)});
 }
 
 void Form::setInnerSize(double width, double height) {
     sized_ = true;
-    resizeOuter(QSize(toPixels(width), toPixels(height) + barsHeight()) + frameExtra());
+    inner_ = QSize(toPixels(width), toPixels(height));
+    resizeInner();
+}
+
+void Form::resizeInner() {
+    resizeOuter(inner_ + QSize(0, barsHeight()) + frameExtra());
 }
 
 void Form::resizeOuter(const QSize& pixels) {
@@ -225,6 +231,9 @@ void Form::load() {
         throw;
     }
     if (state_ == State::Loading) {
+        if (inner_.isValid() && !maximised_) {
+            resizeInner(); // bars grow with the pictures they get meanwhile
+        }
         state_ = State::Loaded;
         arrange();
     }

@@ -124,9 +124,11 @@ private:
     QSize frameExtra() const;
     int barsHeight() const;
     void resizeOuter(const QSize& pixels);
+    void resizeInner();
     void arrange();
 
     QWidget* client_;
+    QSize inner_; ///< client()'s size in pixels as last asked for; invalid if the outer size was
     QList<QWidget*> topBars_;
     QList<QWidget*> bottomBars_;
     QPointer<ParentForm> parentForm_;

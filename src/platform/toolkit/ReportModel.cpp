@@ -1,12 +1,15 @@
 #include "platform/toolkit/ReportModel.h"
 
 #include <QDate>
+#include <QSize>
 #include <algorithm>
 #include <numeric>
 
 namespace toolkit {
 
 namespace {
+
+constexpr int lineHeight = 18; // pixels: room to read along a line
 
 /// What a cell is sorted by: dates first by time, then texts; among texts whole numbers by value.
 struct SortKey {
@@ -135,6 +138,9 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
     }
     if (role == Qt::TextAlignmentRole) {
         return QVariant(columns_.at(static_cast<std::size_t>(index.column())).alignment | Qt::AlignVCenter);
+    }
+    if (role == Qt::SizeHintRole) {
+        return QSize(0, lineHeight);
     }
     return {};
 }
