@@ -1,0 +1,74 @@
+#include "desktop/controllaRisoluzione.h"
+
+#include "core/Logger.h"
+#include "core/db.h"
+#include "core/variabiliGlobali.h"
+#include "desktop/MonitorResolution.h"
+#include "desktop/ResolutionConfirm.h"
+#include "platform/host/Services.h"
+#include "platform/runtime/Conversions.h"
+
+namespace {
+
+constexpr int offerte = 8;
+constexpr qint32 larghezzaMinima = 1024;
+constexpr qint32 altezzaConsigliata = 768;
+
+/// Counts this start; false if it is no longer one of the first eight.
+bool contaAvvio() {
+    const QString parametro = QStringLiteral("CAMBIO_RISOLUZIONE");
+    db& archivio = db::comune();
+    QString valore = QStringLiteral("1");
+    if (archivio.DCount(QStringLiteral("parametro"), QStringLiteral("Parametri"),
+                        QStringLiteral("parametro = '") + parametro + QLatin1Char('\'')) > 0) {
+        const qint16 n =
+            runtime::add16(runtime::toInt16(runtime::leadingNumber(archivio.Load_Param(parametro))), 1);
+        if (n > offerte) {
+            return false;
+        }
+        valore = QString::number(n);
+    }
+    archivio.Save_Param(parametro, valore);
+    return true;
+}
+
+QString domanda(const QString& dimensioni) {
+    return QStringLiteral("Il programma è stato ottimizzato per risoluzioni video 1024x768 o superiori. "
+                          "(Risoluzione attuale: ") +
+           dimensioni +
+           QStringLiteral(
+               ")\nSe si vuole gestire al meglio il programma si consiglia di cambiare la risoluzione. \n"
+               "Il programma può aggiustarla automaticamente: cambiarla adesso? \n"
+               "(Procedere solo se si è sicuri che il proprio computer supporti tale risoluzione!) ");
+}
+
+} // namespace
+
+void controllaRisoluzione() {
+    if (!contaAvvio()) {
+        return;
+    }
+    const MonitorResolution monitor;
+    ModoVideo precedente;
+    monitor.leggiRisoluzione(precedente);
+    const QString dimensioni = QStringLiteral("%1x%2").arg(precedente.larghezza).arg(precedente.altezza);
+    Logger::comune().log(QStringLiteral("Risoluzione ") + dimensioni);
+    if (precedente.larghezza >= larghezzaMinima) {
+        return;
+    }
+    if (host::ask(domanda(dimensioni), host::Icon::Critical, host::Buttons::YesNo) != host::Answer::Yes) {
+        return;
+    }
+    host::message(
+        QStringLiteral("Il programma proverà ora a cambiare risoluzione quindi vi chiederà conferma. "
+                       "Se il vostro Computer non supportasse tale risoluzione potrebbe non apparire nulla. "
+                       "In tal caso attendere 15 secondi e verrà reimpostata la risoluzione precedente"),
+        host::Icon::Information);
+    // A refused mode is not told apart: the confirmation then comes up on the old one.
+    monitor.impostaRisoluzione({larghezzaMinima, altezzaConsigliata, precedente.bit});
+    ResolutionConfirm::comune().showModal();
+    if (variabiliGlobali::rispostaRisoluzione == 2) {
+        monitor.impostaRisoluzione(precedente);
+        host::message(QStringLiteral("Reimpostata risoluzione precedente"), host::Icon::Information);
+    }
+}
