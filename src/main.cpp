@@ -1,3 +1,5 @@
-int main() {
-    return 0;
+#include "core/Avvio.h"
+
+int main(int argc, char** argv) {
+    return avvia(argc, argv);
 }

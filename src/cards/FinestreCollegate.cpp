@@ -1,5 +1,7 @@
 #include "cards/FinestreCollegate.h"
 
+#include "core/Principale.h"
+#include "desktop/frmSplash.h"
 #include "figures/SchedaPreviewFigura.h"
 #include "figures/SchedaSelezioneFIGURE.h"
 #include "templates/SchedaIntestazioneMODELLO.h"
@@ -7,9 +9,14 @@
 
 namespace finestre {
 
-void avanzamentoMassimo(qint16 /*massimo*/) {}
+void avanzamentoMassimo(qint16 massimo) {
+    frmSplash::comune().barSetMax(massimo);
+    frmSplash::comune().barReset();
+}
 
-void avanzamentoPasso() {}
+void avanzamentoPasso() {
+    frmSplash::comune().barStep();
+}
 
 QPointF disponiFigure(double larghezza) {
     constexpr double margine = 250; // twips, at the right of the selection
@@ -51,6 +58,8 @@ void chiediNuovoModello() {
     SchedeMODELLONuova::comune().showModal();
 }
 
-void mostraPrincipale() {}
+void mostraPrincipale() {
+    Principale::comune().mostra();
+}
 
 } // namespace finestre

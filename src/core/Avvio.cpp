@@ -1,0 +1,84 @@
+#include "core/Avvio.h"
+
+#include "artwork/logos/Loghi.h"
+#include "core/Main.h"
+#include "core/Principale.h"
+#include "desktop/Schermo.h"
+#include "platform/host/ProgramDirectory.h"
+#include "platform/host/Services.h"
+#include "platform/host/SingleInstance.h"
+#include "platform/toolkit/Application.h"
+#include "platform/toolkit/FileDialogs.h"
+#include "platform/toolkit/MessageBoxes.h"
+
+#include <QTimer>
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+bool nothingVisible() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::none_of(windows.begin(), windows.end(),
+                        [](const QWidget* window) { return window->isVisible(); });
+}
+
+/// Ends the event loop once no window is visible: the editor's shell alone, loaded and hidden, keeps nothing
+/// alive.
+class EndOfProgram : public QObject {
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Hide && watched->isWidgetType()) {
+            QTimer::singleShot(0, this, [] {
+                if (nothingVisible()) {
+                    QCoreApplication::quit();
+                }
+            });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+void raiseWindow() {
+    if (toolkit::Form* form = toolkit::Form::active()) {
+        form->setWindowState(form->windowState() & ~Qt::WindowMinimized);
+        form->raise();
+        form->activateWindow();
+    }
+}
+
+} // namespace
+
+int avvia(int& argc, char** argv) {
+    toolkit::Application::prepareScale(argc, argv);
+    toolkit::Application application(argc, argv);
+
+    QApplication::setWindowIcon(artwork::iconaProgramma());
+
+    toolkit::MessageBoxes boxes;
+    toolkit::FileDialogs fileDialogs;
+    Schermo schermo;
+    host::setBoxes(&boxes);
+    host::setFileDialogs(&fileDialogs);
+    host::setDisplay(&schermo);
+
+    const host::SingleInstance instance(host::programDirectory());
+    if (!instance.isFirst()) {
+        if (!instance.askToRaise()) {
+            host::message(QStringLiteral("Il programma è già aperto, ma per ora non risponde."),
+                          host::Icon::Exclamation);
+        }
+        return EXIT_SUCCESS;
+    }
+    QObject::connect(&instance, &host::SingleInstance::raiseRequested, &application, raiseWindow);
+
+    Main();
+    if (nothingVisible()) {
+        return EXIT_FAILURE;
+    }
+    const bool started = Principale::esiste() && Principale::comune().isVisible();
+    EndOfProgram end;
+    application.installEventFilter(&end);
+    const int status = QApplication::exec();
+    return started ? status : EXIT_FAILURE;
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+namespace guida {
+
+/// The application's help file; set at start.
+inline QString file;
+
+} // namespace guida

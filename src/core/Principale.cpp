@@ -1,0 +1,213 @@
+#include "core/Principale.h"
+
+#include "artwork/logos/Loghi.h"
+#include "athletes/UtentiSelezione.h"
+#include "cards/SchedeSelezione.h"
+#include "core/Finestre.h"
+#include "core/ImmaginiToolbar.h"
+#include "core/db.h"
+#include "core/variabiliGlobali.h"
+#include "figures/RidimensionatoreImmagini.h"
+#include "platform/host/Process.h"
+#include "platform/host/ProgramDirectory.h"
+#include "platform/toolkit/Twips.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QToolButton>
+#include <utility>
+
+namespace {
+
+constexpr double dimensioneMinima = 7000; // twips; up to here no resizer is made
+
+/// The toolbar's keys, in lower case, and the menu items whose commands they share.
+const std::pair<QString, QString> comandiToolbar[] = {
+    {QStringLiteral("nuova"), QStringLiteral("mnuSchedeNuova")},
+    {QStringLiteral("nuovadamodello"), QStringLiteral("mnuSchedeDaModello")},
+    {QStringLiteral("apri"), QStringLiteral("mnuSchedeApri")},
+    {QStringLiteral("esci"), QStringLiteral("mnuQDKEsci")},
+};
+
+QString comandoDi(const QString& key) {
+    for (const auto& [tasto, nome] : comandiToolbar) {
+        if (key.toLower() == tasto) {
+            return nome;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+Principale::Principale()
+    : Form(QStringLiteral("Principale")), menu(this), Toolbar1(QStringLiteral("Toolbar1"), this),
+      ImageList1({24, 24}), logoQD(QStringLiteral("logoQD"), client()),
+      test(QStringLiteral("test"), QStringLiteral("Tests"), client()) {
+    setCaption(QStringLiteral(" Zentara"));
+    setInnerSize(12000, 8000);
+    setResizable(true);
+    client()->setAutoFillBackground(true);
+    client()->setBackgroundRole(QPalette::Base);
+
+    addTopBar(&menu);
+    addTopBar(&Toolbar1);
+    Toolbar1.addButton(QStringLiteral("nuova"), QStringLiteral("Nuova Scheda"),
+                       QStringLiteral("Crea una nuova Scheda"));
+    Toolbar1.addButton(QStringLiteral("nuovaDaModello"), QStringLiteral("Nuova da Modello"),
+                       QStringLiteral("Crea una nuova scheda a partire da uno dei Modelli già pronti"));
+    Toolbar1.addSeparator(QStringLiteral("sep"));
+    Toolbar1.addButton(QStringLiteral("apri"), QStringLiteral("Apri Scheda"),
+                       QStringLiteral("Apre una scheda in archivio"));
+    Toolbar1.addButton(QStringLiteral("esci"), QStringLiteral("Esci"),
+                       QStringLiteral("Uscita dal programma"));
+
+    toolkit::place(logoQD, 0, 0, 6000, 1800);
+    logoQD.setImage(artwork::logo(artwork::Logo::QuiverDeck, {1200, 360}));
+    toolkit::place(test, 120, 120, 1215, 375);
+    test.hide();
+
+    for (QAction* action : menu.findChildren<QAction*>()) {
+        if (!action->objectName().isEmpty() && action->menu() == nullptr) {
+            action->setEnabled(finestre::pronto(action->objectName()));
+        }
+    }
+    for (int position = 1; position <= Toolbar1.count(); ++position) {
+        if (!Toolbar1.isSeparator(position)) {
+            Toolbar1.setButtonEnabled(position, finestre::pronto(comandoDi(Toolbar1.key(position))));
+        }
+    }
+    connect(&menu, &MenuPrincipale::scelta, this, &Principale::comando);
+    connect(&Toolbar1, &toolkit::Toolbar::buttonClick, this, &Principale::Toolbar1_ButtonClick);
+}
+
+void Principale::onLoad() {
+    caricaImmaginiToolbar(ImageList1, Toolbar1, objectName());
+    Toolbar1.setImageList(&ImageList1);
+    toolkit::assegnaImmaginiToolbar(Toolbar1);
+    setMaximised(true);
+}
+
+void Principale::onResize() {
+    logoQD.setLeft((innerWidth() - logoQD.width()) / 2);
+    logoQD.setTop((innerHeight() - logoQD.height()) / 2);
+    if (outerHeight() <= dimensioneMinima || outerWidth() <= dimensioneMinima) {
+        logoQD.setVisible(true);
+        return;
+    }
+    // Kept: the resizer gets the logo and is not asked to fit it, so that the logo stays as large as it is.
+    RidimensionatoreImmagini ridimensionatore;
+    ridimensionatore.MAX = outerHeight() / 1.5;
+    logoQD.setVisible(false);
+    ridimensionatore.setImage(logoQD);
+    logoQD.setVisible(true);
+}
+
+void Principale::onUnload() {
+    variabiliGlobali::inChiusura = true;
+    finestre::scaricaScheda();
+    QCoreApplication::postEvent(this, new QCloseEvent);
+}
+
+void Principale::nascondi() {
+    hide();
+}
+
+void Principale::mostra() {
+    show();
+}
+
+void Principale::comando(const QString& nome) {
+    static const std::pair<QString, void (*)(Principale&)> comandi[] = {
+        {QStringLiteral("mnuQDKPersonalizza"), [](Principale&) { finestre::mostraPalestra(); }},
+        {QStringLiteral("mnuQDKEsci"), [](Principale& finestra) { finestra.unload(); }},
+        {QStringLiteral("mnuUtentiGestione"), [](Principale& finestra) { finestra.mnuUtentiGestione(); }},
+        {QStringLiteral("mnuSchedeNuova"), [](Principale& finestra) { finestra.mnuSchedeNuova(); }},
+        {QStringLiteral("mnuSchedeApri"), [](Principale& finestra) { finestra.mnuSchedeApri(); }},
+        {QStringLiteral("mnuSchedeDaModello"), [](Principale& finestra) { finestra.mnuSchedeDaModello(); }},
+        {QStringLiteral("mnuSchedeGestioneModello"),
+         [](Principale& finestra) { finestra.mnuSchedeGestioneModello(); }},
+        {QStringLiteral("mnuSchedeCosaNonFare"), [](Principale&) { finestre::mostraAvvertenze(); }},
+        {QStringLiteral("mnuHelpManuale"), [](Principale& finestra) { finestra.mnuHelpManuale(); }},
+        {QStringLiteral("mnuHelpAbout"), [](Principale&) { finestre::mostraInformazioni(); }},
+    };
+    for (const auto& [comandoNoto, esegui] : comandi) {
+        if (nome == comandoNoto) {
+            esegui(*this);
+        }
+    }
+}
+
+void Principale::Toolbar1_ButtonClick(const QString& key) {
+    azzeraScelte();
+    comando(comandoDi(key));
+}
+
+void Principale::azzeraScelte() {
+    variabiliGlobali::idUtenteSelezionato = 0;
+    variabiliGlobali::idSchedaSelezionata = 0;
+    variabiliGlobali::idModelloSelezionato = 0;
+}
+
+void Principale::mnuUtentiGestione() {
+    UtentiSelezione& elenco = UtentiSelezione::comune();
+    elenco.Tag = QStringLiteral("MODIFICA");
+    elenco.load();
+    elenco.showModal();
+}
+
+bool Principale::selezionaUtente() {
+    UtentiSelezione& elenco = UtentiSelezione::comune();
+    elenco.Tag = QStringLiteral("SELEZIONA");
+    elenco.load();
+    elenco.showModal();
+    return variabiliGlobali::idUtenteSelezionato != 0;
+}
+
+void Principale::apriScheda() {
+    finestre::mostraScheda();
+    nascondi();
+}
+
+void Principale::mnuSchedeNuova() {
+    if (selezionaUtente()) {
+        apriScheda();
+    }
+}
+
+void Principale::mnuSchedeApri() {
+    if (!selezionaUtente()) {
+        return;
+    }
+    SchedeSelezione& elenco = SchedeSelezione::comune();
+    elenco.idUtenteLista = variabiliGlobali::idUtenteSelezionato;
+    elenco.fillList();
+    elenco.showModal();
+    if (variabiliGlobali::idSchedaSelezionata != 0) {
+        apriScheda();
+    }
+}
+
+void Principale::mnuSchedeDaModello() {
+    if (!selezionaUtente()) {
+        return;
+    }
+    finestre::mostraModelli();
+    if (variabiliGlobali::idModelloSelezionato > 0) {
+        apriScheda();
+    }
+}
+
+void Principale::mnuSchedeGestioneModello() {
+    azzeraScelte();
+    finestre::mostraModelli();
+    if (variabiliGlobali::idModelloSelezionato > 0) {
+        apriScheda();
+    }
+}
+
+void Principale::mnuHelpManuale() {
+    // A missing row gives its "ERR:" text here: the start then fails, as for a missing launcher.
+    const QString percorso = db::comune().Load_Param(QStringLiteral("PATH_MANUALE"));
+    host::startProcess(host::resolve(host::joined(percorso)), {host::programDirectory()});
+}

@@ -1,0 +1,233 @@
+#include "athletes/UtentiNuovo.h"
+#include "athletes/UtentiSelezione.h"
+#include "core/variabiliGlobali.h"
+#include "support/FormPage.h"
+#include "support/ScratchProgram.h"
+#include "support/ScriptedBoxes.h"
+
+#include <QHeaderView>
+#include <QRadioButton>
+
+using namespace Qt::StringLiterals;
+using host::Answer;
+using host::Icon;
+
+namespace {
+
+constexpr auto threeAthletes = u"INSERT INTO utenti (cognome,nome,dataNascita,sesso,Note) VALUES "
+                               "('Rossi','Élia','1970-05-09','M','Ernia'),('D`Amico','Rosa',NULL,'F',NULL),('"
+                               "bianchi','Ugo','1969-12-31','M','')";
+const QString gone = u"ERR:Problemi di connessione"_s;
+
+UtentiSelezione& open(const QString& mode) {
+    UtentiSelezione& form = UtentiSelezione::comune();
+    form.Tag = mode;
+    form.show();
+    return form;
+}
+
+} // namespace
+
+class TestFinestreUtenti : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() {
+        program_ = std::make_unique<ScratchProgram>();
+        boxes_ = std::make_unique<ScriptedBoxes>();
+        program_->sql(QString::fromUtf16(threeAthletes));
+        variabiliGlobali::idUtenteSelezionato = 77;
+    }
+    void cleanup() {
+        toolkit::Form::destroyAll();
+        QVERIFY(boxes_->satisfied());
+        boxes_.reset();
+        program_.reset();
+    }
+
+    void listShowsTheAthletes() {
+        const FormPage page(open(u"MODIFICA"_s));
+        QCOMPARE(page.lines(), QStringList({u"1|Rossi|Élia|09/05/1970"_s, u"2|D`Amico|Rosa|01/01/1980"_s,
+                                            u"3|bianchi|Ugo|31/12/1969"_s}));
+        QVERIFY(page.list().isColumnHidden(0));
+        QCOMPARE(page.list().selectedText(), u"1"_s);
+        QCOMPARE(page.tabOrder(), QStringList({u"Ricerca"_s, u"LW"_s}));
+        QCOMPARE(page.nameless(), QStringList());
+    }
+
+    void typingFindsAndEnterChooses_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("chosen");
+        QTest::newRow("surname") << u"ro"_s << 1;
+        QTest::newRow("first name") << u"rosa"_s << 2;
+        QTest::newRow("capitals do not count") << u"BI"_s << 3;
+        QTest::newRow("middle of a name") << u"ssi"_s << 1;
+    }
+    void typingFindsAndEnterChooses() {
+        QFETCH(QString, text);
+        for (const QString& mode : {u"SELEZIONA"_s, u"MODIFICA"_s}) {
+            const FormPage page(open(mode));
+            page.type(u"Ricerca"_s, text);
+            QTest::keyClick(&page.control<QWidget>(u"Ricerca"_s), Qt::Key_Return);
+            QTEST(variabiliGlobali::idUtenteSelezionato, "chosen");
+            QVERIFY(!UtentiSelezione::esiste());
+        }
+    }
+
+    void doubleClickFollowsTheMode() {
+        open(u"SELEZIONA"_s);
+        FormPage(UtentiSelezione::comune()).list().select(1);
+        Q_EMIT FormPage(UtentiSelezione::comune()).list().doubleClick();
+        QCOMPARE(variabiliGlobali::idUtenteSelezionato, 2);
+        QVERIFY(!UtentiSelezione::esiste());
+
+        open(u"MODIFICA"_s);
+        QString key;
+        whenModal([&key](toolkit::Form& form) {
+            key = form.Tag;
+            form.unload();
+        });
+        Q_EMIT FormPage(UtentiSelezione::comune()).list().doubleClick();
+        QCOMPARE(key, u"1"_s);
+        QVERIFY(UtentiSelezione::esiste());
+    }
+
+    void cancellingChoosesNothing() {
+        FormPage(open(u"SELEZIONA"_s)).press(u"annulla"_s);
+        open(u"SELEZIONA"_s).close();
+        QVERIFY(!UtentiSelezione::esiste());
+        QCOMPARE(variabiliGlobali::idUtenteSelezionato, 77);
+    }
+
+    void withoutASelection() {
+        program_->sql(u"DELETE FROM utenti"_s);
+        const FormPage page(open(u"SELEZIONA"_s));
+        QCOMPARE(errorOf([&] { page.press(u"seleziona"_s); }), int{runtime::ObjectNotSet});
+        QCOMPARE(errorOf([&] { page.press(u"modifica"_s); }), int{runtime::ObjectNotSet});
+        int reported = 0;
+        toolkit::Application::setFatalHandler([&reported](int number, const QString&) { reported = number; });
+        QTest::keyClick(&page.control<QWidget>(u"Ricerca"_s), Qt::Key_Return);
+        toolkit::Application::setFatalHandler({});
+        QCOMPARE(reported, int{runtime::ObjectNotSet});
+        boxes_->expect(Icon::Critical, u"Si è verificato un errore:"_s +
+                                           runtime::standardDescription(runtime::ObjectNotSet) +
+                                           u"\nContattare il supporto tecnico"_s);
+        page.press(u"elimina"_s);
+    }
+
+    void deleting() {
+        program_->sql(u"INSERT INTO schede (id_utente,id_cat) VALUES (2,1),(2,1),(3,1)"_s);
+        const QString question =
+            u"Sei sicuro di cancellare l'atleta? Verranno cancellate tutte le sue schede!"_s;
+        const FormPage page(open(u"MODIFICA"_s));
+        page.list().select(1);
+        boxes_->expect(Icon::Critical, question, Answer::No);
+        page.press(u"elimina"_s);
+        QCOMPARE(page.list().count(), 3);
+        boxes_->expect(Icon::Critical, question, Answer::Yes);
+        boxes_->expect(Icon::Information, u"Utente e schede eliminati"_s);
+        page.press(u"elimina"_s);
+        QCOMPARE(page.lines(), QStringList({u"1|Rossi|Élia|09/05/1970"_s, u"3|bianchi|Ugo|31/12/1969"_s}));
+        QCOMPARE(program_->rows(u"SELECT id_utente FROM schede"_s), QStringList({u"3"_s}));
+        QCOMPARE(page.list().selectedText(), u"1"_s); // the selected one is gone: the first line
+    }
+
+    void sortingStaysThroughARefill() {
+        const FormPage page(open(u"MODIFICA"_s));
+        page.list().select(2);
+        QTest::mouseClick(page.list().header()->viewport(), Qt::LeftButton, {},
+                          {page.list().header()->sectionViewportPosition(1) + 10, 5});
+        const QStringList byName{u"3|bianchi|Ugo|31/12/1969"_s, u"2|D`Amico|Rosa|01/01/1980"_s,
+                                 u"1|Rossi|Élia|09/05/1970"_s};
+        QCOMPARE(page.lines(), byName);
+        QCOMPARE(page.list().selectedText(), u"3"_s);
+        UtentiSelezione::comune().FillListAtleti();
+        QCOMPARE(page.lines(), byName);
+        QCOMPARE(page.list().selectedText(), u"3"_s);
+        page.list().setSortKey(3);
+        QCOMPARE(page.list().itemText(0), u"3"_s); // dates by time, not by day
+    }
+
+    void newAthlete() {
+        const FormPage list(open(u"MODIFICA"_s));
+        whenModal([](toolkit::Form& form) {
+            const FormPage page(form);
+            QCOMPARE(page.tabOrder(),
+                     QStringList({u"txtNome"_s, u"txtCognome"_s, u"txtDataNascita"_s, u"optM"_s, u"optF"_s,
+                                  u"txtNote"_s, u"CmdSave"_s, u"cmdAnnulla"_s}));
+            QCOMPARE(page.nameless(), QStringList());
+            QVERIFY(!page.control<QRadioButton>(u"optM"_s).isChecked());
+            page.type(u"txtNome"_s, u"Niccolo'"_s);
+            page.type(u"txtCognome"_s, u"D'Amico"_s);
+            page.control<toolkit::DatePicker>(u"txtDataNascita"_s).setValue(QDate(1969, 2, 1));
+            page.control<toolkit::TextArea>(u"txtNote"_s)
+                .setText(u"DELETE * FROM x #1/1/2005# 🏋\nè così"_s);
+            page.press(u"CmdSave"_s);
+        });
+        list.press(u"nuovo"_s);
+        QVERIFY(!UtentiNuovo::esiste());
+        QCOMPARE(list.lines().last(), u"4|D`Amico|Niccolo`|01/02/1969"_s);
+        // With neither choice on, the athlete is stored as "F".
+        QCOMPARE(program_->rows(u"SELECT sesso,Note FROM utenti WHERE id_utente=4"_s),
+                 QStringList({u"F|DELETE * FROM x #1/1/2005# 🏋\nè così"_s}));
+    }
+
+    void missingData_data() {
+        QTest::addColumn<QString>("nome");
+        QTest::addColumn<QString>("cognome");
+        QTest::newRow("no first name") << QString() << u"Rossi"_s;
+        QTest::newRow("no surname") << u"Ada"_s << QString();
+    }
+    void missingData() {
+        QFETCH(QString, nome);
+        QFETCH(QString, cognome);
+        UtentiNuovo& form = UtentiNuovo::comune();
+        form.Tag = u"0"_s;
+        form.show();
+        const FormPage page(form);
+        page.type(u"txtNome"_s, nome);
+        page.type(u"txtCognome"_s, cognome);
+        boxes_->expect(Icon::Critical, u"Mancano alcuni dati essenziali!"_s);
+        page.press(u"CmdSave"_s);
+        QVERIFY(form.isVisible());
+        QCOMPARE(program_->rows(u"SELECT COUNT(*) FROM utenti"_s), QStringList({u"3"_s}));
+    }
+
+    void editing() {
+        const FormPage list(open(u"MODIFICA"_s));
+        for (const bool save : {false, true}) {
+            whenModal([save](toolkit::Form& form) {
+                const FormPage page(form);
+                QCOMPARE(page.control<toolkit::TextBox>(u"txtCognome"_s).text(), u"Rossi"_s);
+                QCOMPARE(page.control<toolkit::TextBox>(u"txtNome"_s).text(), u"Élia"_s);
+                QCOMPARE(page.control<toolkit::DatePicker>(u"txtDataNascita"_s).value(), QDate(1970, 5, 9));
+                QCOMPARE(page.control<toolkit::TextArea>(u"txtNote"_s).text(), u"Ernia"_s);
+                QVERIFY(page.control<QRadioButton>(u"optM"_s).isChecked());
+                QVERIFY(!page.control<QRadioButton>(u"optF"_s).isChecked());
+                page.control<QRadioButton>(u"optF"_s).click();
+                page.control<toolkit::TextBox>(u"txtCognome"_s).setText(u"Verdi"_s);
+                page.press(save ? u"CmdSave"_s : u"cmdAnnulla"_s);
+            });
+            list.press(u"modifica"_s);
+            QCOMPARE(program_->rows(u"SELECT cognome,nome,sesso,Note FROM utenti WHERE id_utente=1"_s),
+                     QStringList({save ? u"Verdi|Élia|F|Ernia"_s : u"Rossi|Élia|M|Ernia"_s}));
+            QCOMPARE(list.list().cell(0, 1), save ? u"Verdi"_s : u"Rossi"_s);
+        }
+    }
+
+    void keyWithoutARow() {
+        UtentiNuovo& form = UtentiNuovo::comune();
+        form.Tag = u"99"_s;
+        boxes_->expect(Icon::Critical, gone);
+        form.show();
+        QCOMPARE(FormPage(form).control<toolkit::TextBox>(u"txtCognome"_s).text(), QString());
+    }
+
+private:
+    std::unique_ptr<ScratchProgram> program_;
+    std::unique_ptr<ScriptedBoxes> boxes_;
+};
+
+int main(int argc, char** argv) {
+    return runFormsTest<TestFinestreUtenti>(argc, argv);
+}
+#include "test_finestre_utenti.moc"
