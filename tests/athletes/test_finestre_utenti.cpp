@@ -1,11 +1,14 @@
 #include "athletes/UtentiNuovo.h"
 #include "athletes/UtentiSelezione.h"
 #include "core/variabiliGlobali.h"
+#include "platform/runtime/Error.h"
+#include "platform/toolkit/DatePicker.h"
 #include "support/FormPage.h"
 #include "support/ScratchProgram.h"
 #include "support/ScriptedBoxes.h"
+#include "support/ToolkitTest.h"
+#include "support/WindowChecks.h"
 
-#include <QHeaderView>
 #include <QRadioButton>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +54,7 @@ private Q_SLOTS:
         QVERIFY(page.list().isColumnHidden(0));
         QCOMPARE(page.list().selectedText(), u"1"_s);
         QCOMPARE(page.tabOrder(), QStringList({u"Ricerca"_s, u"LW"_s}));
+        QCOMPARE(cutTexts(page.window()), QStringList());
         QCOMPARE(page.nameless(), QStringList());
     }
 
@@ -67,7 +71,7 @@ private Q_SLOTS:
         for (const QString& mode : {u"SELEZIONA"_s, u"MODIFICA"_s}) {
             const FormPage page(open(mode));
             page.type(u"Ricerca"_s, text);
-            QTest::keyClick(&page.control<QWidget>(u"Ricerca"_s), Qt::Key_Return);
+            page.key(u"Ricerca"_s, Qt::Key_Return);
             QTEST(variabiliGlobali::idUtenteSelezionato, "chosen");
             QVERIFY(!UtentiSelezione::esiste());
         }
@@ -75,8 +79,7 @@ private Q_SLOTS:
 
     void doubleClickFollowsTheMode() {
         open(u"SELEZIONA"_s);
-        FormPage(UtentiSelezione::comune()).list().select(1);
-        Q_EMIT FormPage(UtentiSelezione::comune()).list().doubleClick();
+        FormPage(UtentiSelezione::comune()).clickLine(u"LW"_s, 1, 2);
         QCOMPARE(variabiliGlobali::idUtenteSelezionato, 2);
         QVERIFY(!UtentiSelezione::esiste());
 
@@ -86,7 +89,7 @@ private Q_SLOTS:
             key = form.Tag;
             form.unload();
         });
-        Q_EMIT FormPage(UtentiSelezione::comune()).list().doubleClick();
+        FormPage(UtentiSelezione::comune()).clickLine(u"LW"_s, 0, 2);
         QCOMPARE(key, u"1"_s);
         QVERIFY(UtentiSelezione::esiste());
     }
@@ -101,13 +104,12 @@ private Q_SLOTS:
     void withoutASelection() {
         program_->sql(u"DELETE FROM utenti"_s);
         const FormPage page(open(u"SELEZIONA"_s));
-        QCOMPARE(errorOf([&] { page.press(u"seleziona"_s); }), int{runtime::ObjectNotSet});
-        QCOMPARE(errorOf([&] { page.press(u"modifica"_s); }), int{runtime::ObjectNotSet});
-        int reported = 0;
-        toolkit::Application::setFatalHandler([&reported](int number, const QString&) { reported = number; });
-        QTest::keyClick(&page.control<QWidget>(u"Ricerca"_s), Qt::Key_Return);
-        toolkit::Application::setFatalHandler({});
-        QCOMPARE(reported, int{runtime::ObjectNotSet});
+        ExpectedFatal fatal;
+        page.press(u"seleziona"_s);
+        page.press(u"modifica"_s);
+        page.key(u"Ricerca"_s, Qt::Key_Return);
+        QCOMPARE(fatal.count, 3);
+        QCOMPARE(fatal.lastNumber, int{runtime::ObjectNotSet});
         boxes_->expect(Icon::Critical, u"Si è verificato un errore:"_s +
                                            runtime::standardDescription(runtime::ObjectNotSet) +
                                            u"\nContattare il supporto tecnico"_s);
@@ -134,8 +136,7 @@ private Q_SLOTS:
     void sortingStaysThroughARefill() {
         const FormPage page(open(u"MODIFICA"_s));
         page.list().select(2);
-        QTest::mouseClick(page.list().header()->viewport(), Qt::LeftButton, {},
-                          {page.list().header()->sectionViewportPosition(1) + 10, 5});
+        page.clickHeader(u"LW"_s, 1);
         const QStringList byName{u"3|bianchi|Ugo|31/12/1969"_s, u"2|D`Amico|Rosa|01/01/1980"_s,
                                  u"1|Rossi|Élia|09/05/1970"_s};
         QCOMPARE(page.lines(), byName);
@@ -155,11 +156,12 @@ private Q_SLOTS:
                      QStringList({u"txtNome"_s, u"txtCognome"_s, u"txtDataNascita"_s, u"optM"_s, u"optF"_s,
                                   u"txtNote"_s, u"CmdSave"_s, u"cmdAnnulla"_s}));
             QCOMPARE(page.nameless(), QStringList());
-            QVERIFY(!page.control<QRadioButton>(u"optM"_s).isChecked());
+            QCOMPARE(cutTexts(form), QStringList());
+            QVERIFY(!page.find<QRadioButton>(u"optM"_s).isChecked());
             page.type(u"txtNome"_s, u"Niccolo'"_s);
             page.type(u"txtCognome"_s, u"D'Amico"_s);
-            page.control<toolkit::DatePicker>(u"txtDataNascita"_s).setValue(QDate(1969, 2, 1));
-            page.control<toolkit::TextArea>(u"txtNote"_s)
+            page.find<toolkit::DatePicker>(u"txtDataNascita"_s).setValue(QDate(1969, 2, 1));
+            page.find<toolkit::TextArea>(u"txtNote"_s)
                 .setText(u"DELETE * FROM x #1/1/2005# 🏋\nè così"_s);
             page.press(u"CmdSave"_s);
         });
@@ -197,14 +199,14 @@ private Q_SLOTS:
         for (const bool save : {false, true}) {
             whenModal([save](toolkit::Form& form) {
                 const FormPage page(form);
-                QCOMPARE(page.control<toolkit::TextBox>(u"txtCognome"_s).text(), u"Rossi"_s);
-                QCOMPARE(page.control<toolkit::TextBox>(u"txtNome"_s).text(), u"Élia"_s);
-                QCOMPARE(page.control<toolkit::DatePicker>(u"txtDataNascita"_s).value(), QDate(1970, 5, 9));
-                QCOMPARE(page.control<toolkit::TextArea>(u"txtNote"_s).text(), u"Ernia"_s);
-                QVERIFY(page.control<QRadioButton>(u"optM"_s).isChecked());
-                QVERIFY(!page.control<QRadioButton>(u"optF"_s).isChecked());
-                page.control<QRadioButton>(u"optF"_s).click();
-                page.control<toolkit::TextBox>(u"txtCognome"_s).setText(u"Verdi"_s);
+                QCOMPARE(page.text(u"txtCognome"_s), u"Rossi"_s);
+                QCOMPARE(page.text(u"txtNome"_s), u"Élia"_s);
+                QCOMPARE(page.find<toolkit::DatePicker>(u"txtDataNascita"_s).value(), QDate(1970, 5, 9));
+                QCOMPARE(page.text(u"txtNote"_s), u"Ernia"_s);
+                QVERIFY(page.find<QRadioButton>(u"optM"_s).isChecked());
+                QVERIFY(!page.find<QRadioButton>(u"optF"_s).isChecked());
+                page.press(u"optF"_s);
+                page.type(u"txtCognome"_s, u"Verdi"_s);
                 page.press(save ? u"CmdSave"_s : u"cmdAnnulla"_s);
             });
             list.press(u"modifica"_s);
@@ -219,7 +221,7 @@ private Q_SLOTS:
         form.Tag = u"99"_s;
         boxes_->expect(Icon::Critical, gone);
         form.show();
-        QCOMPARE(FormPage(form).control<toolkit::TextBox>(u"txtCognome"_s).text(), QString());
+        QCOMPARE(FormPage(form).text(u"txtCognome"_s), QString());
     }
 
 private:
@@ -227,7 +229,5 @@ private:
     std::unique_ptr<ScriptedBoxes> boxes_;
 };
 
-int main(int argc, char** argv) {
-    return runFormsTest<TestFinestreUtenti>(argc, argv);
-}
+QUIVERDECK_WINDOW_TEST_MAIN(TestFinestreUtenti)
 #include "test_finestre_utenti.moc"

@@ -1,0 +1,112 @@
+#include "cards/SchedeSelezione.h"
+#include "core/variabiliGlobali.h"
+#include "platform/runtime/Error.h"
+#include "support/FormPage.h"
+#include "support/ScratchProgram.h"
+#include "support/ScriptedBoxes.h"
+#include "support/ToolkitTest.h"
+#include "support/WindowChecks.h"
+
+using namespace Qt::StringLiterals;
+using host::Answer;
+using host::Icon;
+using variabiliGlobali::idSchedaSelezionata;
+
+class TestSchedeSelezione : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() {
+        program_ = std::make_unique<ScratchProgram>();
+        boxes_ = std::make_unique<ScriptedBoxes>();
+        program_->sql(
+            u"INSERT INTO utenti (cognome,nome) VALUES ('D`Amico','Niccolò'),('Verdi','Ugo');"
+            "INSERT INTO schede (id_utente,id_cat,PeriodoDal,PeriodoAl,Istruttore,FreqAllen) VALUES "
+            "(1,1,'2005-12-01','2006-01-15','Giulia D’Amico',3),(1,2,NULL,'2006-02-03','',0),"
+            "(2,1,NULL,NULL,'x',0)"_s);
+        idSchedaSelezionata = 77;
+    }
+    void cleanup() {
+        toolkit::Form::destroyAll();
+        QVERIFY(boxes_->satisfied());
+        boxes_.reset();
+        program_.reset();
+    }
+
+    void listsTheAthletesCards() {
+        const FormPage page(open(1));
+        QCOMPARE(page.text(u"utente"_s), u"[D`Amico Niccolò]"_s);
+        QCOMPARE(page.lines(), QStringList({u"1|01/12/2005|15/01/2006|Giulia D’Amico|Forza"_s,
+                                            u"2||03/02/2006||Generale"_s})); // a Null period is an empty cell
+        QVERIFY(page.list().isColumnHidden(0));
+        QCOMPARE(page.widget(u"LW"_s).geometry(), QRect(-1, 36, 403, 306));
+        QCOMPARE(cutTexts(page.window()), QStringList());
+        QCOMPARE(page.nameless(), QStringList());
+        page.list().setSortKey(1);
+        QCOMPARE(page.list().itemText(0), u"2"_s);
+    }
+
+    void choosing_data() {
+        QTest::addColumn<int>("presses"); // 1 the button, 2 a double click
+        QTest::newRow("button") << 1;
+        QTest::newRow("double click") << 2;
+    }
+    void choosing() {
+        QFETCH(int, presses);
+        const FormPage page(open(1));
+        page.clickLine(u"LW"_s, 1, presses);
+        if (presses == 1) {
+            page.press(u"seleziona"_s);
+        }
+        QCOMPARE(idSchedaSelezionata, 2);
+        QVERIFY(!SchedeSelezione::esiste());
+    }
+
+    void withoutCards() {
+        program_->sql(u"DELETE FROM schede WHERE id_utente=2"_s);
+        boxes_->expect(Icon::Critical, u"L'utente non ha schede salvate!"_s);
+        const FormPage page(open(2));
+        for (const QString& key : {u"seleziona"_s, u"elimina"_s, u"stampa"_s}) {
+            QVERIFY(!page.isEnabled(key));
+        }
+        Q_EMIT page.list().doubleClick(); // in the empty list: nothing
+        page.press(u"annulla"_s);
+        QVERIFY(!SchedeSelezione::esiste());
+        QCOMPARE(idSchedaSelezionata, 77);
+    }
+
+    void deleting() {
+        const FormPage page(open(1));
+        boxes_->expect(Icon::Critical, u"Confermi?"_s, Answer::No);
+        page.press(u"elimina"_s);
+        QCOMPARE(page.list().count(), 2);
+        for (int left = 1; left >= 0; --left) {
+            boxes_->expect(Icon::Critical, u"Confermi?"_s, Answer::Yes);
+            boxes_->expect(Icon::Information, u"Scheda eliminata"_s);
+            page.press(u"elimina"_s);
+            QCOMPARE(page.list().count(), left);
+        }
+        QCOMPARE(program_->rows(u"SELECT id_scheda FROM schede"_s), QStringList({u"3"_s}));
+        // An emptied list disables nothing: the next try tells.
+        boxes_->expect(Icon::Critical, u"Si è verificato un errore:\n"_s +
+                                           runtime::standardDescription(runtime::ObjectNotSet) +
+                                           u"\nContattare il supporto tecnico"_s);
+        page.press(u"elimina"_s);
+        page.press(u"seleziona"_s);
+        QCOMPARE(idSchedaSelezionata, 77);
+    }
+
+private:
+    static SchedeSelezione& open(qint32 athlete) {
+        SchedeSelezione& form = SchedeSelezione::comune();
+        form.idUtenteLista = athlete;
+        form.fillList();
+        form.show();
+        return form;
+    }
+
+    std::unique_ptr<ScratchProgram> program_;
+    std::unique_ptr<ScriptedBoxes> boxes_;
+};
+
+QUIVERDECK_WINDOW_TEST_MAIN(TestSchedeSelezione)
+#include "test_SchedeSelezione.moc"

@@ -1,0 +1,164 @@
+#include "core/variabiliGlobali.h"
+#include "desktop/MonitorResolution.h"
+#include "desktop/ResolutionConfirm.h"
+#include "desktop/controllaRisoluzione.h"
+#include "platform/host/Display.h"
+#include "support/FormPage.h"
+#include "support/ScratchProgram.h"
+#include "support/ScriptedBoxes.h"
+#include "support/ToolkitTest.h"
+#include "support/WindowChecks.h"
+
+using namespace Qt::StringLiterals;
+using host::Answer;
+using host::Icon;
+using variabiliGlobali::rispostaRisoluzione;
+
+namespace {
+
+class FakeDisplay : public host::Display {
+public:
+    FakeDisplay() { host::setDisplay(this); }
+    ~FakeDisplay() override { host::setDisplay(nullptr); }
+
+    bool read(host::DisplayMode& mode) override {
+        mode = present;
+        return true;
+    }
+    bool set(const host::DisplayMode& mode) override {
+        asked.append(u"%1x%2x%3"_s.arg(mode.width).arg(mode.height).arg(mode.bits));
+        return accepts;
+    }
+
+    host::DisplayMode present;
+    bool accepts = true;
+    QStringList asked;
+};
+
+const QString parameter = u"SELECT valore FROM Parametri WHERE parametro='CAMBIO_RISOLUZIONE'"_s;
+const QString question = u"Il programma è stato ottimizzato per risoluzioni video 1024x768 o superiori. "
+                         "(Risoluzione attuale: 800x600)\n"_s;
+
+} // namespace
+
+class TestRisoluzione : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() {
+        program_ = std::make_unique<ScratchProgram>();
+        boxes_ = std::make_unique<ScriptedBoxes>();
+        display_ = std::make_unique<FakeDisplay>();
+        display_->present = {800, 600, 24, 60};
+        rispostaRisoluzione = 0;
+    }
+    void cleanup() {
+        toolkit::Form::destroyAll();
+        QVERIFY(boxes_->satisfied());
+        display_.reset();
+        boxes_.reset();
+        program_.reset();
+    }
+
+    void starts_data() {
+        QTest::addColumn<QString>("stored"); // SQL; empty: no row
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QStringList>("after");
+        QTest::addColumn<bool>("asks");
+        QTest::newRow("first") << QString() << 800 << QStringList(u"1"_s) << true;
+        QTest::newRow("third") << u"'2'"_s << 800 << QStringList(u"3"_s) << true;
+        QTest::newRow("eighth") << u"'7'"_s << 1023 << QStringList(u"8"_s) << true;
+        QTest::newRow("frozen") << u"'8'"_s << 800 << QStringList(u"8"_s) << false;
+        QTest::newRow("beyond") << u"'30'"_s << 800 << QStringList(u"30"_s) << false;
+        QTest::newRow("wide enough") << QString() << 1024 << QStringList(u"1"_s) << false;
+        QTest::newRow("wide screens count too") << u"'4'"_s << 1280 << QStringList(u"5"_s) << false;
+        QTest::newRow("no number") << u"'abc'"_s << 800 << QStringList(u"1"_s) << true;
+        QTest::newRow("Null") << u"NULL"_s << 800 << QStringList(u"1"_s) << true;
+    }
+    void starts() {
+        QFETCH(QString, stored);
+        QFETCH(int, width);
+        QFETCH(bool, asks);
+        if (!stored.isEmpty()) {
+            program_->sql(u"INSERT INTO Parametri VALUES ('CAMBIO_RISOLUZIONE',"_s + stored + u')');
+        }
+        display_->present.width = width;
+        if (asks) {
+            boxes_->expectBeginning(Icon::Critical, u"Il programma è stato ottimizzato"_s, Answer::No);
+        }
+        controllaRisoluzione();
+        QTEST(program_->rows(parameter), "after");
+        QVERIFY(display_->asked.isEmpty());
+    }
+
+    void confirmed_data() {
+        QTest::addColumn<QString>("act");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("back");
+        QTest::newRow("OK") << u"OKButton"_s << 1 << false;
+        QTest::newRow("Annulla") << u"CancelButton"_s << 2 << true;
+        QTest::newRow("close box") << u"close"_s << 0 << false;
+        QTest::newRow("Escape") << u"escape"_s << 0 << false;
+        QTest::newRow("nobody answers") << u"timer"_s << 2 << true;
+    }
+    void confirmed() {
+        QFETCH(QString, act);
+        QFETCH(bool, back);
+        boxes_->expectBeginning(Icon::Critical, question, Answer::Yes);
+        boxes_->expectBeginning(Icon::Information, u"Il programma proverà ora a cambiare risoluzione"_s);
+        if (back) {
+            boxes_->expect(Icon::Information, u"Reimpostata risoluzione precedente"_s);
+        }
+        display_->accepts = act != u"OKButton"_s; // a refused mode brings the confirmation up all the same
+        auto* timer = ResolutionConfirm::comune().findChild<QTimer*>(u"Timer"_s);
+        QCOMPARE(timer->interval(), 1000);
+        QStringList seconds;
+        if (act == u"timer"_s) {
+            timer->setInterval(0);
+            auto* label = ResolutionConfirm::comune().findChild<toolkit::Label*>(u"lblSec"_s);
+            connect(timer, &QTimer::timeout, label, [&seconds, label] { seconds.append(label->text()); });
+        } else {
+            whenModal([act](toolkit::Form& form) {
+                QCOMPARE(cutTexts(form), QStringList());
+                QCOMPARE(FormPage(form).text(u"lblSec"_s), u"16"_s);
+                if (act == u"close"_s) {
+                    form.close();
+                } else if (act == u"escape"_s) {
+                    QTest::keyClick(&form, Qt::Key_Escape);
+                } else {
+                    FormPage(form).press(act);
+                }
+            });
+        }
+        controllaRisoluzione();
+        QTEST(int(rispostaRisoluzione), "answer");
+        QCOMPARE(display_->asked,
+                 back ? QStringList({u"1024x768x24"_s, u"800x600x24"_s}) : QStringList({u"1024x768x24"_s}));
+        if (act == u"timer"_s) { // 15 at the first tick, 0 at the sixteenth, cancelled at the seventeenth
+            QCOMPARE(seconds.size(), 17);
+            QCOMPARE(seconds.first(), u"15"_s);
+            QCOMPARE(seconds.at(15), u"0"_s);
+        }
+    }
+
+    void modeIsLogged() {
+        display_->present.width = 1280;
+        controllaRisoluzione();
+        QVERIFY(program_->log().contains(u"Risoluzione 1280x600"_s));
+    }
+
+    void withoutADisplay() {
+        display_.reset();
+        ModoVideo modo{1, 2, 3};
+        MonitorResolution().leggiRisoluzione(modo);
+        QCOMPARE(modo.larghezza, 0);
+        QVERIFY(!MonitorResolution().impostaRisoluzione({1024, 768, 24}));
+    }
+
+private:
+    std::unique_ptr<ScratchProgram> program_;
+    std::unique_ptr<ScriptedBoxes> boxes_;
+    std::unique_ptr<FakeDisplay> display_;
+};
+
+QUIVERDECK_WINDOW_TEST_MAIN(TestRisoluzione)
+#include "test_risoluzione.moc"
