@@ -241,7 +241,12 @@ void Form::load() {
 
 void Form::show() {
     setVisible(true);
-    if (isVisible() && !frame_) {
+    if (!isVisible()) {
+        return;
+    }
+    if (frame_) {
+        parentForm_->area()->setActiveSubWindow(frame_);
+    } else {
         raise();
         activateWindow();
     }
