@@ -127,11 +127,10 @@ void SchedeMODELLOSelezione::annulla() {
 
 void SchedeMODELLOSelezione::nuova() {
     variabiliGlobali::nomeModelloSelezionato = categoria.text();
-    // The first call of showModal returns when this handler has: the caller then reads the new template's
-    // key.
+    // The call that showed this window returns when this handler has: its caller then reads the new key.
     hide();
-    SchedeMODELLONuova::comune().showModal();
     unload();
+    SchedeMODELLONuova::comune().showModal();
 }
 
 void SchedeMODELLOSelezione::elimina() {
