@@ -43,10 +43,10 @@ SchedeSelezione::SchedeSelezione()
     place(LW, -15, 540, 6045, 4590);
     LW.setAccessibleName(QStringLiteral("Schede"));
     LW.addColumn(QStringLiteral("ID_scheda"), 0);
-    LW.addColumn(QStringLiteral("Dal"), 1125);
-    LW.addColumn(QStringLiteral("Al"), 1125);
-    LW.addColumn(QStringLiteral("Istruttore"), 1995);
-    LW.addColumn(QStringLiteral("Categoria"), 1500);
+    LW.addColumn(QStringLiteral("Dal"), 1020);
+    LW.addColumn(QStringLiteral("Al"), 1020);
+    LW.addColumn(QStringLiteral("Istruttore"), 1890);
+    LW.addColumn(QStringLiteral("Categoria"), 1830);
 
     connect(&Toolbar, &toolkit::Toolbar::buttonClick, this, &SchedeSelezione::Toolbar_ButtonClick);
     connect(&LW, &toolkit::ReportList::doubleClick, this, &SchedeSelezione::seleziona);

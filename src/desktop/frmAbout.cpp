@@ -39,7 +39,7 @@ frmAbout::frmAbout()
       cmdOK(QStringLiteral("cmdOK"), QStringLiteral("OK"), client()),
       cmdSysInfo(QStringLiteral("cmdSysInfo"), QStringLiteral("&System Info..."), client()) {
     setCaption(QStringLiteral("Informazioni sul programma"));
-    setInnerSize(5835, 4740);
+    setInnerSize(5835, 4620);
 
     place(Image1, 180, 180, 1800, 540);
     Image1.setImage(artwork::logo(artwork::Logo::QuiverDeck, {480, 144}));
@@ -53,7 +53,7 @@ frmAbout::frmAbout()
     place(lblLink, 180, 2685, 4200, 225);
     place(lblLinkEmailAuthor, 180, 3135, 4200, 225);
     lblDisclaimer.setWordWrap(true);
-    place(lblDisclaimer, 180, 3645, 5475, 1005);
+    place(lblDisclaimer, 180, 3645, 5475, 885);
 
     place(cmdOK, 4530, 2625, 1125, 345);
     place(cmdSysInfo, 4545, 3075, 1110, 345);
