@@ -1,5 +1,6 @@
 #include "figures/GestoreListaIMG.h"
 
+#include "desktop/Tool_BarProg.h"
 #include "figures/Figure.h"
 #include "figures/TreeViewHelper.h"
 #include "platform/host/Services.h"
@@ -40,11 +41,25 @@ void GestoreListaIMG::elenca() {
     const bool tutto = muscolo == u"*"_s;
     Figure catalogo;
     catalogo.init(tutto);
+    const int quante = catalogo.figureQD->Count();
+    const bool conProgresso = quante >= figureConProgresso;
+    if (conProgresso) {
+        Tool_BarProg::comune().show();
+        Tool_BarProg::comune().setTitolo(u"Caricamento immagini in corso"_s);
+        Tool_BarProg::comune().Totale = static_cast<float>(quante);
+    }
     tw->clear();
     for (const auto& una : *catalogo.figureQD) {
         if (una->id_muscolo == muscolo || tutto || una->nomeMuscolo == gruppo) {
             aggiungiNodo(una->figura_(), una->numero, una->id_fig);
         }
+        if (conProgresso) {
+            float passo = 0;
+            Tool_BarProg::comune().update(passo);
+        }
+    }
+    if (conProgresso) {
+        Tool_BarProg::comune().Chiudi();
     }
 }
 

@@ -1,5 +1,6 @@
 #include "cards/mdiScheda.h"
 #include "core/variabiliGlobali.h"
+#include "desktop/Tool_BarProg.h"
 #include "figures/GestoreListaIMG.h"
 #include "figures/SchedaPreviewFigura.h"
 #include "figures/SchedaSelezioneFIGURE.h"
@@ -12,6 +13,7 @@
 #include "support/WindowChecks.h"
 #include "support/WindowPage.h"
 
+#include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMimeData>
@@ -62,6 +64,24 @@ private:
         albero.ensureVisible(chiave);
         QTest::mouseClick(albero.viewport(), Qt::LeftButton, {}, posto(albero, chiave).center());
     }
+};
+
+/// What the progress window tells, each time it paints.
+class Avanzamento : public QObject {
+public:
+    Avanzamento() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* visto, QEvent* evento) override {
+        if (evento->type() == QEvent::Paint && visto->objectName() == u"Status"_s) {
+            const QString testo = qobject_cast<QLabel*>(visto)->text();
+            titolo = qobject_cast<QLabel*>(visto)->window()->windowTitle();
+            if (testi.isEmpty() || testi.last() != testo) {
+                testi.append(testo);
+            }
+        }
+        return false;
+    }
+    QStringList testi;
+    QString titolo;
 };
 
 class Anteprima : public WindowPage {
@@ -125,6 +145,26 @@ private Q_SLOTS:
                          qPrintable(uno->objectName()));
             }
         }
+    }
+
+    void avanzamento_data() {
+        QTest::addColumn<int>("aggiunte");
+        QTest::addColumn<QString>("testi");
+        QTest::newRow("ten of the machine") << 5 << QString();
+        // Counted over the whole machine, also where one figure alone matches.
+        QTest::newRow("eleven") << 6 << u"9% 18% 27% 36% 45% 54% 63% 72% 81% 90% 100%"_s;
+    }
+    void avanzamento() {
+        QFETCH(int, aggiunte);
+        for (int i = 0; i < aggiunte; ++i) {
+            programma_->figura(10 + i, 10 + i, u"GLU"_s, u"Q/%1.JPG"_s.arg(10 + i));
+        }
+        Avanzamento avanzamento;
+        const Palette palette = apri();
+        QCOMPARE(palette.elenco(), u"[2]"_s);
+        QTEST(avanzamento.testi.join(u' '), "testi");
+        QCOMPARE(avanzamento.titolo, aggiunte > 5 ? u"Caricamento immagini in corso"_s : QString());
+        QVERIFY(!Tool_BarProg::esiste());
     }
 
     void gruppiVicini() {
