@@ -1,0 +1,116 @@
+#include "printing/Anteprima.h"
+
+#include "core/ImmaginiToolbar.h"
+#include "platform/host/Services.h"
+#include "platform/runtime/Error.h"
+#include "platform/toolkit/Hourglass.h"
+#include "platform/toolkit/PrinterDialog.h"
+#include "platform/toolkit/Twips.h"
+#include "printing/MisureAnteprima.h"
+#include "printing/Painting.h"
+
+#include <QCoreApplication>
+#include <QPrinter>
+#include <QWheelEvent>
+
+#include <utility>
+
+namespace {
+
+constexpr double printerRatio = 4; // device pixels to the logical one: 384 dpi
+constexpr double barWidth = 255;   // twips
+
+} // namespace
+
+Anteprima::Anteprima(const QString& name, sheet::Surface surface, const QStringList& sensibili)
+    : Form(name), superficie(std::move(surface)), Toolbar(QStringLiteral("Toolbar"), this),
+      ImageList({24, 24}), canvas(QStringLiteral("canvas"), client(), superficie, sensibili),
+      VScroll1(QStringLiteral("VScroll1"), client()) {
+    setCaption(QStringLiteral("Anteprima"));
+    setResizable(true);
+    setInnerSize(12000, 9000);
+    addTopBar(&Toolbar);
+    client()->setAutoFillBackground(true);
+    client()->setBackgroundRole(QPalette::Mid);
+    VScroll1.setAccessibleName(QStringLiteral("Scorrimento del foglio"));
+    VScroll1.setFocusPolicy(Qt::StrongFocus);
+    VScroll1.setMin(0);
+    VScroll1.setMax(0);
+    VScroll1.setLive(true); // the page follows the hand
+    connect(&Toolbar, &toolkit::Toolbar::buttonClick, this,
+            [this](const QString& key) { comando(key.toLower()); });
+    connect(&VScroll1, &toolkit::ScrollBar::changed, this,
+            [this] { canvas.move(canvas.x(), toolkit::toPixels(-VScroll1.value())); });
+    connect(&canvas, &Foglio::mouseMoved, this,
+            [this](qint16 button) { sliderEffect.setDisplacement(button, VScroll1); });
+}
+
+void Anteprima::aggiungiPulsante(const QString& key, const QString& caption, const QString& tip) {
+    Toolbar.addButton(key, caption, tip);
+}
+
+void Anteprima::aggiungiBarraDiStato(const QStringList& panels) {
+    StatusBar1_ = new toolkit::StatusBar(QStringLiteral("StatusBar1"), this); // owned by the window
+    for (const QString& key : panels)
+        StatusBar1_->addPanel(key);
+    addBottomBar(StatusBar1_);
+}
+
+void Anteprima::preparaToolbar() {
+    caricaImmaginiToolbar(ImageList, Toolbar, objectName());
+    Toolbar.setImageList(&ImageList);
+    toolkit::assegnaImmaginiToolbar(Toolbar);
+}
+
+void Anteprima::onLoad() {
+    preparaToolbar();
+}
+
+double Anteprima::altezzaBarre() const {
+    const int status = StatusBar1_ ? StatusBar1_->sizeHint().height() : 0;
+    return toolkit::toTwips(Toolbar.sizeHint().height() + status);
+}
+
+void Anteprima::onResize() {
+    if (isMinimized())
+        return;
+    const MisureAnteprima misure = misuraAnteprima(outerWidth(), outerHeight(), altezzaBarre(), barWidth,
+                                                   superficie.width, superficie.height);
+    toolkit::place(VScroll1, misure.barLeft, 0, barWidth, misure.barHeight);
+    if (misure.corsa) {
+        VScroll1.setMin(0);
+        VScroll1.setMax(misure.corsa->Max);
+        VScroll1.setSmallChange(misure.corsa->SmallChange);
+        VScroll1.setLargeChange(misure.corsa->LargeChange);
+    }
+    centraCanvas();
+}
+
+void Anteprima::centraCanvas() {
+    const double left = misuraAnteprima(outerWidth(), outerHeight(), altezzaBarre(), barWidth,
+                                        superficie.width, superficie.height)
+                            .canvasLeft;
+    canvas.move(toolkit::toPixels(left), canvas.y());
+}
+
+void Anteprima::wheelEvent(QWheelEvent* event) {
+    QCoreApplication::sendEvent(&VScroll1, event); // the wheel turns the page wherever the mouse stands
+}
+
+void Anteprima::rasterizza() {
+    Picture2 = sheet::raster(superficie, printerRatio);
+}
+
+void Anteprima::stampaProtetta() {
+    const toolkit::Hourglass hourglass;
+    try {
+        QPrinter printer(QPrinter::HighResolution);
+        toolkit::PrintRange range = intervallo();
+        if (!toolkit::printerDialog().choose(printer, range))
+            runtime::raise(runtime::Cancelled);
+        stampaFogli(printer, range);
+    } catch (const runtime::Error& error) {
+        if (error.number() != runtime::Cancelled)
+            host::message(error.description());
+    }
+}

@@ -1,0 +1,69 @@
+#include "printing/Foglio.h"
+
+#include "printing/Painting.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+qint16 buttonState(Qt::MouseButtons buttons) {
+    int state = 0;
+    if (buttons & Qt::LeftButton)
+        state += 1;
+    if (buttons & Qt::RightButton)
+        state += 2;
+    if (buttons & Qt::MiddleButton)
+        state += 4;
+    return static_cast<qint16>(state);
+}
+
+} // namespace
+
+Foglio::Foglio(const QString& name, QWidget* parent, const sheet::Surface& surface, QStringList sensibili)
+    : QWidget(parent), surface_(surface), sensibili_(std::move(sensibili)) {
+    setObjectName(name);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    resize(sizeHint());
+}
+
+QSize Foglio::sizeHint() const {
+    return surface_.pixels();
+}
+
+void Foglio::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), Qt::white);
+    painter.scale(1 / sheet::twipsPerPixel, 1 / sheet::twipsPerPixel);
+    sheet::paint(surface_, painter);
+}
+
+bool Foglio::reagisce(const QPointF& pixel) const {
+    const QPointF point = pixel * sheet::twipsPerPixel;
+    const auto& elements = surface_.elements();
+    // Frames and rules are drawn on the paper and do not take the mouse.
+    const auto top = std::find_if(elements.rbegin(), elements.rend(), [&](const sheet::Element& element) {
+        return element.visible && element.kind != sheet::Kind::Frame && element.kind != sheet::Kind::Rule &&
+               element.rect().contains(point);
+    });
+    return top == elements.rend() || sensibili_.contains(top->name);
+}
+
+void Foglio::mousePressEvent(QMouseEvent* event) {
+    if (!premuto_)
+        premutoReagisce_ = reagisce(event->position());
+    premuto_ = true;
+}
+
+void Foglio::mouseReleaseEvent(QMouseEvent* event) {
+    premuto_ = event->buttons() != Qt::NoButton;
+}
+
+void Foglio::mouseMoveEvent(QMouseEvent* event) {
+    if (premuto_ ? premutoReagisce_ : reagisce(event->position()))
+        Q_EMIT mouseMoved(buttonState(event->buttons()));
+}
