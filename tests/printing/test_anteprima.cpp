@@ -92,7 +92,7 @@ private Q_SLOTS:
         QTEST(found.corsa ? found.corsa->LargeChange : 0, "large");
     }
     void measuresBeyond16Bits() {
-        QVERIFY_EXCEPTION_THROWN(misuraAnteprima(100, 100, 0, 255, 11340, 33000), runtime::Error);
+        QVERIFY_THROWS_EXCEPTION(runtime::Error, misuraAnteprima(100, 100, 0, 255, 11340, 33000));
     }
 
     void pagingStopsAtBothEnds() {

@@ -4,6 +4,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
+#include <QPainter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <sqlite3.h>
@@ -34,10 +36,17 @@ constexpr std::array<Stop, 5> stops{{
 /// The gym's own row, written as the gym would have done, with a logo of its own.
 void writeGym(const QString& folder) {
     const QString logo = folder + "/images/palestra ’Il Cigno’.JPG";
-    if (QProcess::execute("convert", {"-size", "600x420", "xc:#ffffff", "-fill", "#1f6f8b", "-draw",
-                                      "roundrectangle 20,20 580,400 60,60", "-fill", "#f4d35e", "-draw",
-                                      "circle 300,210 300,90", "-fill", "#ffffff", "-draw",
-                                      "circle 300,210 300,150", logo}) != 0)
+    QImage picture(600, 420, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x1f6f8b));
+    painter.drawRoundedRect(20, 20, 560, 380, 60, 60);
+    painter.setBrush(QColor(0xf4d35e));
+    painter.drawEllipse(QPoint(300, 210), 120, 120);
+    painter.end();
+    if (!picture.save(logo, "JPG", 92))
         throw TourError("no logo drawn");
     sqlite3* handle = nullptr;
     sqlite3_open_v2((folder + "/splash.ps").toUtf8().constData(), &handle, SQLITE_OPEN_READWRITE, nullptr);
