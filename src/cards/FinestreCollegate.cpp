@@ -4,6 +4,7 @@
 #include "desktop/frmSplash.h"
 #include "figures/SchedaPreviewFigura.h"
 #include "figures/SchedaSelezioneFIGURE.h"
+#include "printing/PrinterCanvas.h"
 #include "templates/SchedaIntestazioneMODELLO.h"
 #include "templates/SchedeMODELLONuova.h"
 
@@ -44,14 +45,8 @@ void scaricaIntestazioneModello() {
     SchedaIntestazioneMODELLO::comune().unload();
 }
 
-bool haAnteprima() {
-    return false;
-}
-
-void mostraAnteprima() {}
-
-bool haNuovoModello() {
-    return true;
+void mostraAnteprima() {
+    PrinterCanvas::comune().showModal();
 }
 
 void chiediNuovoModello() {

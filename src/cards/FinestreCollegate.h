@@ -22,11 +22,9 @@ void disponiAnteprimaFigura(QPointF figure);
 void disponiIntestazioneModello(const std::function<void(toolkit::Form&)>& disponi);
 void scaricaIntestazioneModello();
 
-bool haAnteprima();
 /// Shows the print preview of the selected card and waits for its end.
 void mostraAnteprima();
 
-bool haNuovoModello();
 /// Asks for category and description of a new template and waits for the answer, idModelloSelezionato.
 void chiediNuovoModello();
 

@@ -36,7 +36,6 @@ SchedeSelezione::SchedeSelezione()
                       QStringLiteral("Elimina la Scheda evidenziata"));
     Toolbar.addButton(QStringLiteral("stampa"), QStringLiteral("Stampa"),
                       QStringLiteral("Anteprima di Stampa"));
-    Toolbar.setButtonEnabled(QStringLiteral("stampa"), finestre::haAnteprima());
 
     place(Label1, 0, 120, 735, 255);
     place(utente_, 720, 120, 2655, 255);

@@ -1,12 +1,12 @@
 #include "cards/mdiScheda.h"
 
-#include "artwork/icons/Icone.h"
 #include "athletes/utente.h"
 #include "cards/FinestreCollegate.h"
 #include "cards/SchedaCorpo.h"
 #include "cards/SchedaIntestazione.h"
 #include "cards/salvaComeModello.h"
 #include "cards/scheda.h"
+#include "core/ImmaginiToolbar.h"
 #include "core/db.h"
 #include "core/variabiliGlobali.h"
 #include "figures/figura.h"
@@ -28,7 +28,6 @@ constexpr QSize latoPulsante{24, 24};
 
 // Positions on the toolbar.
 constexpr int pulsanteSalva = 1;
-constexpr int pulsanteSalvaSuModello = 2;
 constexpr int pulsanteStampa = 4;
 
 void informa(const QString& testo) {
@@ -64,12 +63,7 @@ mdiScheda::~mdiScheda() = default;
 void mdiScheda::onLoad() {
     ImageListToolBar.clear();
     ImageListToolBar.setImageSize(latoPulsante);
-    for (int i = 1; i <= ToolbarSchede.count(); ++i) {
-        if (!ToolbarSchede.isSeparator(i)) {
-            const QString chiave = ToolbarSchede.key(i);
-            ImageListToolBar.add(chiave, artwork::icona(QStringLiteral("mdiScheda"), chiave));
-        }
-    }
+    caricaImmaginiToolbar(ImageListToolBar, ToolbarSchede, objectName());
     ToolbarSchede.setImageList(&ImageListToolBar);
     toolkit::assegnaImmaginiToolbar(ToolbarSchede);
     caricaImmagini();
@@ -113,8 +107,7 @@ void mdiScheda::mostra() {
     show(); // maximised: the pages are placed by its width
     disponiPagine();
     puoiChiudere = false;
-    ToolbarSchede.setButtonEnabled(pulsanteStampa, !schedaAperta->isModello && finestre::haAnteprima());
-    ToolbarSchede.setButtonEnabled(pulsanteSalvaSuModello, finestre::haNuovoModello());
+    ToolbarSchede.setButtonEnabled(pulsanteStampa, !schedaAperta->isModello);
 }
 
 void mdiScheda::creaScheda() {

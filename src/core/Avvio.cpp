@@ -10,7 +10,9 @@
 #include "platform/toolkit/Application.h"
 #include "platform/toolkit/FileDialogs.h"
 #include "platform/toolkit/MessageBoxes.h"
+#include "platform/toolkit/QtPrinterDialog.h"
 
+#include <QCursor>
 #include <QTimer>
 #include <algorithm>
 #include <cstdlib>
@@ -39,6 +41,12 @@ public:
     }
 };
 
+/// Where the mouse stands, in the same pixels as every geometry.
+class ScreenCursor : public host::Cursor {
+public:
+    QPoint position() override { return QCursor::pos(); }
+};
+
 void raiseWindow() {
     if (toolkit::Form* form = toolkit::Form::active()) {
         form->setWindowState(form->windowState() & ~Qt::WindowMinimized);
@@ -57,9 +65,13 @@ int avvia(int& argc, char** argv) {
 
     toolkit::MessageBoxes boxes;
     toolkit::FileDialogs fileDialogs;
+    toolkit::QtPrinterDialog printerDialog;
+    ScreenCursor cursor;
     Schermo schermo;
     host::setBoxes(&boxes);
     host::setFileDialogs(&fileDialogs);
+    toolkit::setPrinterDialog(&printerDialog);
+    host::setCursor(&cursor);
     host::setDisplay(&schermo);
 
     const host::SingleInstance instance(host::programDirectory());

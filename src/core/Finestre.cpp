@@ -2,6 +2,7 @@
 
 #include "cards/mdiScheda.h"
 #include "desktop/frmAbout.h"
+#include "printing/PrinterDaNonFare.h"
 #include "templates/SchedeMODELLOSelezione.h"
 
 #include <QStringList>
@@ -11,7 +12,6 @@ namespace finestre {
 bool pronto(const QString& comando) {
     static const QStringList mancanti{
         QStringLiteral("mnuQDKPersonalizza"),
-        QStringLiteral("mnuSchedeCosaNonFare"),
         QStringLiteral("mnuHelpHelp"),
         QStringLiteral("mnuHelpManuale"),
     };
@@ -38,7 +38,9 @@ void mostraModelli() {
 
 void mostraPalestra() {}
 
-void mostraAvvertenze() {}
+void mostraAvvertenze() {
+    PrinterDaNonFare::comune().showModal();
+}
 
 void mostraInformazioni() {
     frmAbout::comune().showModal();

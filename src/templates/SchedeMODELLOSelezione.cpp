@@ -1,6 +1,6 @@
 #include "templates/SchedeMODELLOSelezione.h"
 
-#include "artwork/icons/Icone.h"
+#include "core/ImmaginiToolbar.h"
 #include "core/f_library.h"
 #include "core/variabiliGlobali.h"
 #include "platform/host/Services.h"
@@ -65,9 +65,7 @@ SchedeMODELLOSelezione::SchedeMODELLOSelezione()
 }
 
 void SchedeMODELLOSelezione::onLoad() {
-    for (int posizione = 1; posizione <= Toolbar.count(); ++posizione) {
-        ImageList1.add(Toolbar.key(posizione), artwork::icona(objectName(), Toolbar.key(posizione)));
-    }
+    caricaImmaginiToolbar(ImageList1, Toolbar, objectName());
     Toolbar.setImageList(&ImageList1);
     toolkit::assegnaImmaginiToolbar(Toolbar);
     impostaPulsanti();
