@@ -161,7 +161,7 @@ private:
     /// name.
     QString source(const QString& name, const QString& figures, const QStringList& templates) {
         const QString data = qEnvironmentVariable("QUIVERDECK_SOURCE") + QStringLiteral("/data/");
-        const QString folder = folder_->filePath(name);
+        QString folder = folder_->filePath(name);
         QDir().mkpath(folder + QStringLiteral("/modelli"));
         for (const char* file :
              {"schema.sql", "muscoli.csv", "macchinari.csv", "palestra.csv", "parametri.csv"})
