@@ -14,7 +14,7 @@ namespace {
 
 void colour(QLabel& label, const QColor& text) {
     QPalette colours = label.palette();
-    colours.setColor(QPalette::WindowText, text);
+    colours.setColor(QPalette::Text, text); // on the face's own ground labels take this role
     label.setPalette(colours);
 }
 
