@@ -46,7 +46,24 @@ void TextArea::select(int start, int length) {
     setTextCursor(cursor);
 }
 
+QString TextArea::fitting(const QString& text) const {
+    const QTextCursor cursor = textCursor();
+    const qsizetype kept =
+        document()->characterCount() - 1 - (cursor.selectionEnd() - cursor.selectionStart());
+    qsizetype room = std::clamp<qsizetype>(longest - kept, 0, text.size());
+    if (room > 0 && room < text.size() && text.at(room - 1).isHighSurrogate()) {
+        --room; // no half of a character
+    }
+    return text.left(room);
+}
+
 void TextArea::keyPressEvent(QKeyEvent* event) {
+    const bool character =
+        !event->text().isEmpty() && (event->text().at(0).isPrint() || event->text() == u"\r");
+    if (character && fitting(event->text()) != event->text()) {
+        event->accept();
+        return;
+    }
     if (guarded_ && event->text() == QLatin1String("'") && !isReadOnly()) {
         insertPlainText(ApostropheGuard::guarded(event->text()));
         event->accept();
@@ -56,19 +73,17 @@ void TextArea::keyPressEvent(QKeyEvent* event) {
 }
 
 void TextArea::inputMethodEvent(QInputMethodEvent* event) {
-    if (guarded_ && event->commitString().contains(QLatin1Char('\''))) {
-        event->setCommitString(ApostropheGuard::guarded(event->commitString()), event->replacementStart(),
-                               event->replacementLength());
-    }
+    const QString text = fitting(event->commitString());
+    event->setCommitString(guarded_ ? ApostropheGuard::guarded(text) : text, event->replacementStart(),
+                           event->replacementLength());
     QPlainTextEdit::inputMethodEvent(event);
 }
 
 void TextArea::insertFromMimeData(const QMimeData* source) {
-    if (guarded_ && source->hasText()) {
-        insertPlainText(ApostropheGuard::guarded(source->text()));
-        return;
+    if (source->hasText() && !isReadOnly()) {
+        const QString text = fitting(source->text());
+        insertPlainText(guarded_ ? ApostropheGuard::guarded(text) : text);
     }
-    QPlainTextEdit::insertFromMimeData(source);
 }
 
 void TextArea::focusInEvent(QFocusEvent* event) {

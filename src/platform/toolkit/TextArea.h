@@ -17,6 +17,9 @@ public:
     /// Typed and pasted straight apostrophes become typographic ones.
     void guardApostrophes() { guarded_ = true; }
 
+    /// Characters that the user can bring it to, by typing or pasting; what goes beyond is left out.
+    static constexpr int longest = 32767;
+
 Q_SIGNALS:
     void changed();
     /// The focus came from another control (not back from a popup, a box or another window).
@@ -32,6 +35,8 @@ protected:
 
 private:
     void report();
+    /// As much of `text` as still fits in place of the selection.
+    QString fitting(const QString& text) const;
 
     QString reported_;
     bool guarded_ = false;
