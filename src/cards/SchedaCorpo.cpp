@@ -60,6 +60,8 @@ void SchedaCorpo::disponi() {
             precedente = controllo;
         }
     }
+    VS.setFocusPolicy(Qt::TabFocus); // within reach of the keyboard; a click leaves the focus where it is
+    setTabOrder(precedente, &VS);
 }
 
 void SchedaCorpo::collega(int i) {

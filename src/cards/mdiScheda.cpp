@@ -14,6 +14,7 @@
 #include "platform/host/Services.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Dates.h"
+#include "platform/runtime/Error.h"
 #include "printing/ContatoreTempi.h"
 #include "templates/SchedaModello.h"
 
@@ -156,6 +157,9 @@ void mdiScheda::disponiPagine() {
 }
 
 void mdiScheda::premuto(const QString& chiave) {
+    if (!schedaAperta) {
+        runtime::raise(runtime::ObjectNotSet);
+    }
     if (!schedaAperta->isModello) {
         SchedaIntestazione::comune().nascondiTutto();
     }

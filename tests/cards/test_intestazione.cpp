@@ -6,9 +6,11 @@
 #include "support/WindowChecks.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QScopeGuard>
 
 using host::Icon;
@@ -111,6 +113,25 @@ private Q_SLOTS:
                                         : card.note,
                  atteso);
         QVERIFY(!card.isSaved);
+    }
+
+    // One more would make the save fail, and the card would be lost.
+    void notesStopAtWhatTheRecordStores() {
+        EditorAperto e;
+        e.apriScheda(e.scheda());
+        auto& note = e.intestazione().find<QPlainTextEdit>("note");
+        QGuiApplication::clipboard()->setText(QString(40'000, u'è'));
+        note.selectAll();
+        note.paste();
+        QTest::keyClicks(&note, "x");
+        QTest::keyClick(&note, Qt::Key_Return);
+        QCOMPARE(EditorAperto::aperta().note, QString(32'767, u'è'));
+        e.riquadri.expect(Icon::Information, "Salvataggio effettuato");
+        e.comando("salva");
+        QVERIFY(e.riquadri.satisfied());
+        note.selectAll();
+        QTest::keyClicks(&note, "di nuovo"); // a selection makes room
+        QCOMPARE(EditorAperto::aperta().note, QStringLiteral("di nuovo"));
     }
 
     void datesGoStraightToTheCard() {
