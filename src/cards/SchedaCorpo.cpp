@@ -8,7 +8,6 @@
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/Twips.h"
-#include "platform/toolkit/Validation.h"
 #include "printing/ContatoreTempi.h"
 
 #include <QScopedValueRollback>
@@ -35,10 +34,9 @@ SchedaCorpo::SchedaCorpo()
     setCaption(QStringLiteral("Esercizi"));
     setParentForm(mdiScheda::comune());
     disponi();
-    auto* validazione = new toolkit::Validation(this);
     for (int i = 0; i < righe; ++i) {
         collega(i);
-        controlla(i, *validazione);
+        controlla(i);
     }
     connect(&VS, &toolkit::ScrollBar::changed, this, &SchedaCorpo::scorri);
     connect(&Command1, &QPushButton::clicked, this, &SchedaCorpo::copiaPrimo);
@@ -86,7 +84,7 @@ void SchedaCorpo::collega(int i) {
     }
 }
 
-void SchedaCorpo::controlla(int i, toolkit::Validation& validazione) {
+void SchedaCorpo::controlla(int i) {
     RigaEsercizio& r = riga.at(static_cast<std::size_t>(i));
     for (toolkit::Combo* elenco : r.elenchi()) {
         validazione.add(elenco, [elenco] {

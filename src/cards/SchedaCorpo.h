@@ -4,14 +4,12 @@
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/ScrollBar.h"
 #include "platform/toolkit/Shared.h"
+#include "platform/toolkit/Validation.h"
 #include "printing/PictureCache.h"
 
 #include <array>
 
 class SchedaApribile;
-namespace toolkit {
-class Validation;
-}
 
 /// The exercise page of the card editor: two rows of controls that a scroll bar moves along the exercises of
 /// the open card or template. A row is copied into its exercise before it moves, and filled from the next
@@ -38,7 +36,7 @@ private:
     static SchedaApribile& aperta();
     void disponi();
     void collega(int i);
-    void controlla(int i, toolkit::Validation& validazione);
+    void controlla(int i);
 
     void mostraEsercizi();
     void normalizzaCampi();
@@ -62,4 +60,5 @@ private:
     std::array<RigaEsercizio, righe> riga;
     toolkit::ScrollBar VS;
     toolkit::Button Command1;
+    toolkit::Validation validazione{this};
 };

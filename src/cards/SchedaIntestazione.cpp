@@ -12,7 +12,6 @@
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/Fonts.h"
 #include "platform/toolkit/Twips.h"
-#include "platform/toolkit/Validation.h"
 #include "templates/Categorie.h"
 
 #include <array>
@@ -179,9 +178,8 @@ void SchedaIntestazione::collega() {
 }
 
 void SchedaIntestazione::controlla() {
-    auto* validazione = new toolkit::Validation(this);
     for (toolkit::Combo* elenco : {&categoria, &FreqAllen}) {
-        validazione->add(elenco, [elenco] {
+        validazione.add(elenco, [elenco] {
             if (!nonInLista(*elenco)) {
                 return true;
             }

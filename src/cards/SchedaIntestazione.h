@@ -10,6 +10,7 @@
 #include "platform/toolkit/Shared.h"
 #include "platform/toolkit/TextArea.h"
 #include "platform/toolkit/TextBox.h"
+#include "platform/toolkit/Validation.h"
 
 class scheda;
 
@@ -57,4 +58,5 @@ private:
     toolkit::Button apriGGAllen;
     toolkit::TextArea note;
     toolkit::CheckListBox GGAllen;
+    toolkit::Validation validazione{this};
 };
