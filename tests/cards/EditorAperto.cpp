@@ -4,6 +4,7 @@
 #include "cards/SchedaIntestazione.h"
 #include "cards/mdiScheda.h"
 #include "cards/scheda.h"
+#include "core/Principale.h"
 #include "core/variabiliGlobali.h"
 #include "platform/toolkit/Application.h"
 
@@ -51,6 +52,9 @@ EditorAperto::~EditorAperto() {
         mdiScheda::comune().puoiChiudere = true;
         mdiScheda::comune().unload();
         toolkit::Application::purge();
+    }
+    if (Principale::esiste()) {
+        Principale::comune().nascondi();
     }
     azzera();
 }

@@ -3,10 +3,12 @@
 #include "cards/SchedaIntestazione.h"
 #include "cards/mdiScheda.h"
 #include "cards/scheda.h"
+#include "core/Principale.h"
 #include "core/variabiliGlobali.h"
 #include "platform/host/ProgramDirectory.h"
 #include "platform/runtime/Error.h"
 #include "printing/ContatoreTempi.h"
+#include "printing/PrinterCanvas.h"
 #include "support/ToolkitTest.h"
 #include "support/WindowChecks.h"
 #include "templates/SchedaIntestazioneMODELLO.h"
@@ -15,6 +17,7 @@
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QPointer>
 #include <QTimer>
 #include <cmath>
 
@@ -184,6 +187,34 @@ private Q_SLOTS:
         QVERIFY(EditorAperto::aperta().isSaved);
     }
 
+    void printingStoresTheCardWithoutAQuestion() {
+        EditorAperto e;
+        e.apriNuova();
+        QVERIFY(e.corpo().drop("figura_1", "1")); // behind a blank line
+        QPointer<toolkit::Form> pagina(&SchedaCorpo::comune());
+        bool aperta = false;
+        QTimer::singleShot(0, qApp, [&] {
+            aperta = PrinterCanvas::comune().isVisible() && !SchedaCorpo::esiste();
+            PrinterCanvas::comune().unload();
+        });
+        e.comando("stampa");
+        QVERIFY(aperta);
+        QVERIFY(e.riquadri.satisfied());
+        QCOMPARE(identificativi(), QStringLiteral("1 1 0"));
+        QCOMPARE(EditorAperto::aperta().id_scheda, 1);
+        QVERIFY(pagina != &SchedaCorpo::comune()); // loaded afresh, from what the store holds
+        QCOMPARE(SchedaCorpo::comune().top(), SchedaIntestazione::comune().outerHeight());
+        QCOMPARE(EditorAperto::righe(), QStringList({"1|30s|0||0", "0||0||0"}));
+        QVERIFY(!mdiScheda::comune().puoiChiudere);
+
+        e.corpo().type("peso_0", "4 kg");
+        e.riquadri.expect(Icon::Information, "Salvataggio effettuato");
+        e.comando("salva");
+        QVERIFY(e.riquadri.satisfied());
+        QCOMPARE(e.programma.rows("SELECT id_scheda FROM schede"), QStringList("1"));
+        QCOMPARE(e.programma.rows("SELECT ct, NProg, Peso FROM Esercizi"), QStringList("1|1|4 kg"));
+    }
+
     void finishAsksOfAnUntouchedCardToo_data() {
         QTest::addColumn<Answer>("risposta");
         QTest::addColumn<bool>("chiusa");
@@ -202,6 +233,7 @@ private Q_SLOTS:
         e.comando("fine");
         QVERIFY(e.riquadri.satisfied());
         QCOMPARE(mdiScheda::comune().isVisible(), !chiusa);
+        QCOMPARE(Principale::esiste() && Principale::comune().isVisible(), chiusa);
         QCOMPARE(mdiScheda::comune().puoiChiudere, chiusa);
         QCOMPARE(SchedaCorpo::esiste(), !chiusa);
         QVERIFY(mdiScheda::comune().isLoaded());
