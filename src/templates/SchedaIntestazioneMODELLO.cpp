@@ -24,6 +24,7 @@ SchedaIntestazioneMODELLO::SchedaIntestazioneMODELLO()
     setCaption(u"Scheda"_s);
     setParentForm(mdiScheda::comune());
     setInnerSize(4860, 2325);
+    Frame1.setBorder(false); // it reaches beyond the page at the left and below
     toolkit::place(Frame1, -30, 0, 4815, 2340);
     const QFont verdana = toolkit::font(u"Verdana"_s, 8.25);
     Frame1.setFont(verdana);

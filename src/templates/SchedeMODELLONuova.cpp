@@ -32,6 +32,9 @@ SchedeMODELLONuova::SchedeMODELLONuova()
         controllo->setFont(verdana);
     }
     toolkit::place(Label1, 120, 120, 1800, 255);
+    QFont stretto = verdana;
+    stretto.setStretch(88); // the longest of the supplied names shows whole
+    categoria.setFont(stretto);
     categoria.setAccessibleName(u"Categoria"_s);
     toolkit::place(categoria, 1440, 120, 2535, 315);
     toolkit::place(Label2, 120, 600, 1320, 255);

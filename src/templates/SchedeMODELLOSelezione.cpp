@@ -33,7 +33,9 @@ SchedeMODELLOSelezione::SchedeMODELLOSelezione()
     Label1.setFont(verdana);
     Label1.setBuddy(&categoria);
     toolkit::place(Label1, 120, 120, 1800, 255);
-    categoria.setFont(verdana);
+    QFont stretto = verdana;
+    stretto.setStretch(88); // the longest of the supplied names shows whole
+    categoria.setFont(stretto);
     categoria.setAccessibleName(u"Categoria"_s);
     toolkit::place(categoria, 2040, 90, 2460, 315);
     LW.setFont(verdana);
