@@ -2,6 +2,7 @@
 
 #include "cards/mdiScheda.h"
 #include "desktop/frmAbout.h"
+#include "desktop/frmPersonalizza.h"
 #include "printing/PrinterDaNonFare.h"
 #include "templates/SchedeMODELLOSelezione.h"
 
@@ -11,7 +12,6 @@ namespace finestre {
 
 bool pronto(const QString& comando) {
     static const QStringList mancanti{
-        QStringLiteral("mnuQDKPersonalizza"),
         QStringLiteral("mnuHelpHelp"),
         QStringLiteral("mnuHelpManuale"),
     };
@@ -36,7 +36,9 @@ void mostraModelli() {
     SchedeMODELLOSelezione::comune().showModal();
 }
 
-void mostraPalestra() {}
+void mostraPalestra() {
+    frmPersonalizza::comune().showModal();
+}
 
 void mostraAvvertenze() {
     PrinterDaNonFare::comune().showModal();

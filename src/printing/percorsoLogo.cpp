@@ -13,6 +13,11 @@ QString percorsoLogo(const QString& stored) {
     if (parts.size() < 2 ||
         parts.at(parts.size() - 2).compare(QLatin1String("images"), Qt::CaseInsensitive) != 0)
         return file;
-    QString moved = host::resolve(host::joined(QStringLiteral("\\images\\") + parts.last()));
-    return QFileInfo(moved).isFile() ? moved : file;
+    // An apostrophe in a stored text has become a backquote.
+    for (const QString& name : {parts.last(), QString(parts.last()).replace(u'`', u'\'')}) {
+        const QString here = host::resolve(host::joined(QStringLiteral("\\images\\") + name));
+        if (QFileInfo(here).isFile())
+            return here;
+    }
+    return file;
 }

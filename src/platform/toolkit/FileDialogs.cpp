@@ -1,13 +1,52 @@
 #include "platform/toolkit/FileDialogs.h"
 
 #include "platform/host/Application.h"
+#include "platform/runtime/Error.h"
+#include "platform/toolkit/PictureFile.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
 
 namespace toolkit {
+
+namespace {
+
+constexpr QSize previewSize(200, 200); // logical pixels
+
+/// Shows the marked picture at the dialog's right side, or why it cannot be shown.
+void addPreview(QFileDialog& dialog) {
+    auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
+    if (grid == nullptr) {
+        return;
+    }
+    auto* preview = new QLabel(&dialog);
+    preview->setObjectName(QStringLiteral("preview"));
+    preview->setFixedWidth(previewSize.width() + 10);
+    preview->setAlignment(Qt::AlignCenter);
+    preview->setWordWrap(true);
+    preview->setFrameStyle(QFrame::Box | QFrame::Plain);
+    grid->addWidget(preview, 1, grid->columnCount());
+    QObject::connect(&dialog, &QFileDialog::currentChanged, preview, [preview](const QString& path) {
+        preview->clear();
+        if (!QFileInfo(path).isFile()) {
+            return;
+        }
+        try {
+            const PictureFile file(path, PictureFile::Literal);
+            const bool fits =
+                file.size().width() <= previewSize.width() && file.size().height() <= previewSize.height();
+            preview->setPixmap(QPixmap::fromImage(fits ? file.whole() : file.fitted(previewSize)));
+        } catch (const runtime::Error&) {
+            preview->setText(QStringLiteral("Nessuna anteprima"));
+        }
+    });
+}
+
+} // namespace
 
 QStringList FileDialogs::nameFilters(const QString& filter) {
     QStringList filters;
@@ -26,6 +65,10 @@ QString FileDialogs::openFile(const QString& filter, const QString& folder) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(nameFilters(filter));
+    if (filter.contains(QLatin1String("*.jpg"), Qt::CaseInsensitive)) {
+        addPreview(dialog);
+        dialog.resize(820, 480);
+    }
     const QString start = folder.isEmpty() ? lastFolder_ : folder;
     dialog.setDirectory(start.isEmpty() ? QDir::homePath() : start);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {

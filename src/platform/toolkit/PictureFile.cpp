@@ -16,13 +16,24 @@ namespace {
 
 } // namespace
 
-PictureFile::PictureFile(const QString& path) : file_(host::resolve(path)) {
+PictureFile::PictureFile(const QString& path, Path kind)
+    : file_(kind == Literal ? path : host::resolve(path)) {
     if (!QFileInfo(file_).isFile()) {
         runtime::raise(runtime::FileNotFound, QStringLiteral("File non trovato: %1").arg(file_));
     }
     QImageReader reader(file_);
     reader.setDecideFormatFromContent(true);
     size_ = reader.size();
+    if (qint64(size_.width()) * size_.height() > (reader.format() == "jpeg" ? mostPixels : mostPixelsWhole)) {
+        runtime::raise(badPicture, QStringLiteral("Immagine troppo grande (%1 × %2 punti): %3")
+                                       .arg(size_.width())
+                                       .arg(size_.height())
+                                       .arg(file_));
+    }
+    turned_ = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    if (turned_) {
+        size_.transpose();
+    }
     if (!size_.isValid()) { // a format that tells its size only when read
         const QImage image = reader.read();
         if (image.isNull()) {
@@ -35,8 +46,9 @@ PictureFile::PictureFile(const QString& path) : file_(host::resolve(path)) {
 QImage PictureFile::read(const QSize& scaled) const {
     QImageReader reader(file_);
     reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
     if (scaled != size_) {
-        reader.setScaledSize(scaled);
+        reader.setScaledSize(turned_ ? scaled.transposed() : scaled);
     }
     QImage image = reader.read();
     if (image.isNull()) {

@@ -5,12 +5,15 @@
 
 namespace toolkit {
 
-/// A picture file, found without regard to case and decoded no larger than needed. Every function raises
-/// runtime::FileNotFound for a missing file and `badPicture` for one that cannot be decoded.
+/// A picture file, found without regard to case and decoded no larger than needed, turned as it asks for.
+/// Every function raises runtime::FileNotFound for a missing file and `badPicture` for one that cannot be
+/// decoded or is too large to be decoded in a moment.
 class PictureFile {
 public:
-    /// `path` may have backslashes (see host::resolve).
-    explicit PictureFile(const QString& path);
+    /// Stored: `path` may have backslashes and any letter case (see host::resolve). Literal: a real file's.
+    enum Path { Stored, Literal };
+
+    explicit PictureFile(const QString& path, Path kind = Stored);
 
     /// The picture's own size in pixels.
     QSize size() const { return size_; }
@@ -21,12 +24,16 @@ public:
 
     static constexpr int badPicture = 481;
     static constexpr int largest = 2400; ///< pixels
+    /// Most pixels of a file: a JPEG is decoded scaled, other formats whole, in 128 MiB.
+    static constexpr qint64 mostPixels = 100'000'000;
+    static constexpr qint64 mostPixelsWhole = 32'000'000;
 
 private:
     QImage read(const QSize& scaled) const;
 
     QString file_;
     QSize size_;
+    bool turned_ = false; ///< by a quarter, so that the file's own width is the picture's height
 };
 
 } // namespace toolkit
