@@ -1,6 +1,6 @@
 #include "core/MenuPrincipale.h"
 
-#include "artwork/icons/Icone.h"
+#include "desktop/OwnMenu.h"
 #include "platform/runtime/Error.h"
 
 #include <QMenu>
@@ -54,7 +54,7 @@ MenuPrincipale::MenuPrincipale(QWidget* parent) : QMenuBar(parent) {
             menu = addMenu(QString::fromUtf8(riga.testo));
             menu->setObjectName(nome);
         } else if (riga.specie == Riga::Voce) {
-            aggiungi(*menu, nome, QString::fromUtf8(riga.testo), QString::fromUtf8(riga.immagine));
+            aggiungi(*menu, nome, QString::fromUtf8(riga.testo));
         } else {
             QAction* action = menu->addSeparator();
             action->setObjectName(nome);
@@ -63,15 +63,46 @@ MenuPrincipale::MenuPrincipale(QWidget* parent) : QMenuBar(parent) {
     }
 }
 
-void MenuPrincipale::aggiungi(QMenu& menu, const QString& nome, const QString& testo,
-                              const QString& immagine) {
+MenuPrincipale::~MenuPrincipale() {
+    spoglia();
+}
+
+void MenuPrincipale::aggiungi(QMenu& menu, const QString& nome, const QString& testo) {
     QAction* action = menu.addAction(testo);
     action->setObjectName(nome);
     action->setMenuRole(QAction::NoRole);
-    if (!immagine.isEmpty()) {
-        action->setIcon(artwork::icona(QStringLiteral("menu"), immagine));
-    }
     connect(action, &QAction::triggered, this, [this, nome] { Q_EMIT scelta(nome); });
+}
+
+void MenuPrincipale::vesti(QWidget& finestra, const toolkit::ImageList& immagini,
+                           const StileMenu::Disegno& lato) {
+    const QColor tinta(255, 128, 128);
+    OwnMenu::avvia(finestra, *this, immagini);
+    vestita = &finestra;
+    int menu = -1;
+    int posizione = 0;
+    for (const Riga& riga : righe) {
+        const QString nome = QString::fromUtf8(riga.nome);
+        if (riga.specie == Riga::Lato) {
+            const bool mostrato = nome != QStringLiteral("mnuUtentiBar");
+            OwnMenu::registraMenu(++menu, tinta, mostrato ? lato : StileMenu::Disegno());
+            posizione = 0;
+        } else if (riga.specie != Riga::Menu) {
+            // Kept: these two stay plain items.
+            if (nome != QStringLiteral("sep88") && nome != QStringLiteral("mnuHelpManuale")) {
+                OwnMenu::registraVoce(posizione, QString::fromUtf8(riga.immagine));
+            }
+            ++posizione;
+        }
+    }
+    OwnMenu::aggancia();
+}
+
+void MenuPrincipale::spoglia() {
+    if (vestita) {
+        OwnMenu::sgancia(*vestita);
+        vestita = nullptr;
+    }
 }
 
 QAction& MenuPrincipale::voce(const QString& nome) const {

@@ -1,5 +1,6 @@
 #include "core/Principale.h"
 
+#include "artwork/icons/Icone.h"
 #include "artwork/logos/Loghi.h"
 #include "athletes/UtentiSelezione.h"
 #include "cards/SchedeSelezione.h"
@@ -27,6 +28,12 @@ const std::pair<QString, QString> comandiToolbar[] = {
     {QStringLiteral("nuovadamodello"), QStringLiteral("mnuSchedeDaModello")},
     {QStringLiteral("apri"), QStringLiteral("mnuSchedeApri")},
     {QStringLiteral("esci"), QStringLiteral("mnuQDKEsci")},
+};
+
+/// The keys of the menus' pictures.
+const QString chiaviMenu[] = {
+    QStringLiteral("lista"), QStringLiteral("esci"),      QStringLiteral("utenti"), QStringLiteral("nuova"),
+    QStringLiteral("apri"),  QStringLiteral("damodello"), QStringLiteral("hint"),   QStringLiteral("info"),
 };
 
 QString comandoDi(const QString& key) {
@@ -86,6 +93,13 @@ void Principale::onLoad() {
     Toolbar1.setImageList(&ImageList1);
     toolkit::assegnaImmaginiToolbar(Toolbar1);
     setMaximised(true);
+    if (ImageList_OwnerMenu.count() == 0) {
+        for (const QString& chiave : chiaviMenu) {
+            ImageList_OwnerMenu.add(chiave, artwork::icona(QStringLiteral("menu"), chiave));
+        }
+    }
+    menu.vesti(*this, ImageList_OwnerMenu,
+               [](const QSize& pixels) { return artwork::logo(artwork::Logo::BarraMenu, pixels); });
 }
 
 void Principale::onResize() {
@@ -107,6 +121,7 @@ void Principale::onUnload() {
     variabiliGlobali::inChiusura = true;
     finestre::scaricaScheda();
     QCoreApplication::postEvent(this, new QCloseEvent);
+    menu.spoglia();
 }
 
 void Principale::nascondi() {

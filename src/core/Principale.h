@@ -43,6 +43,7 @@ private:
     MenuPrincipale menu;
     toolkit::Toolbar Toolbar1;
     toolkit::ImageList ImageList1;
+    toolkit::ImageList ImageList_OwnerMenu; ///< 16 units, keyed
     toolkit::PictureBox logoQD;
     toolkit::Button test;
 };
