@@ -23,13 +23,17 @@ using host::Icon;
 namespace {
 
 /// Works through `passi` once the form of kind F shows modally, and closes it if they have not.
-template <class F> void quandoSiApre(const std::function<void()>& passi) {
-    QTimer::singleShot(0, qApp, [passi] {
+template <class F> void quandoSiApre(std::function<void()> passi) {
+    auto* attesa = new QTimer(qApp);
+    attesa->setSingleShot(true);
+    QObject::connect(attesa, &QTimer::timeout, attesa, [attesa, passi = std::move(passi)] {
+        attesa->deleteLater();
         passi();
         if (F::esiste()) {
             F::comune().unload();
         }
     });
+    attesa->start(0);
 }
 
 template <class F> void modale(const std::function<void()>& passi) {
