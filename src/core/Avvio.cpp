@@ -13,7 +13,7 @@
 #include "platform/toolkit/QtPrinterDialog.h"
 
 #include <QCursor>
-#include <QTimer>
+#include <QTimerEvent>
 #include <algorithm>
 #include <cstdlib>
 
@@ -31,13 +31,17 @@ class EndOfProgram : public QObject {
 public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Hide && watched->isWidgetType()) {
-            QTimer::singleShot(0, this, [] {
-                if (nothingVisible()) {
-                    QCoreApplication::quit();
-                }
-            });
+            startTimer(0); // the handler that hides one window may be about to show another
         }
         return QObject::eventFilter(watched, event);
+    }
+
+protected:
+    void timerEvent(QTimerEvent* event) override {
+        killTimer(event->timerId());
+        if (nothingVisible()) {
+            QCoreApplication::quit();
+        }
     }
 };
 

@@ -53,6 +53,8 @@ MenuPrincipale::MenuPrincipale(QWidget* parent) : QMenuBar(parent) {
         if (riga.specie == Riga::Menu) {
             menu = addMenu(QString::fromUtf8(riga.testo));
             menu->setObjectName(nome);
+        } else if (menu == nullptr) {
+            continue; // the table begins with a menu
         } else if (riga.specie == Riga::Voce) {
             aggiungi(*menu, nome, QString::fromUtf8(riga.testo));
         } else {

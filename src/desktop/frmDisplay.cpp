@@ -12,7 +12,6 @@ frmDisplay::frmDisplay()
     txtDisplay.setAccessibleName(QStringLiteral("Testo"));
     connect(&txtDisplay, &toolkit::TextArea::changed, this,
             [this] { txtDisplay.moveCursor(QTextCursor::End); }); // the latest line shows
-    onResize();
 }
 
 void frmDisplay::stampa(const QString& s) {

@@ -95,6 +95,24 @@ private Q_SLOTS:
         QCOMPARE(idSchedaSelezionata, 77);
     }
 
+    void preview() {
+        const FormPage page(open(1));
+        page.list().select(1);
+        qint32 shown = 0;
+        program_->sql(u"INSERT INTO Esercizi VALUES (1,1,2,0,'','','',0,0,0,'','',1,'Corsa')"_s);
+        whenModal([&](toolkit::Form& form) {
+            QCOMPARE(form.objectName(), u"PrinterCanvas"_s);
+            QCOMPARE(SchedeSelezione::comune().cursor().shape(), Qt::WaitCursor);
+            shown = idSchedaSelezionata;
+            form.unload();
+        });
+        page.press(u"stampa"_s);
+        QCOMPARE(shown, 2);
+        QCOMPARE(idSchedaSelezionata, 0); // closing the list afterwards opens nothing
+        QCOMPARE(SchedeSelezione::comune().cursor().shape(), Qt::ArrowCursor);
+        QVERIFY(SchedeSelezione::comune().isVisible());
+    }
+
 private:
     static SchedeSelezione& open(qint32 athlete) {
         SchedeSelezione& form = SchedeSelezione::comune();

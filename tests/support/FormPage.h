@@ -60,10 +60,14 @@ private:
 };
 
 /// Acts on the modal form that the next call opens, once it shows; the act must close it.
-inline void whenModal(std::function<void(toolkit::Form&)> act) {
-    QTimer::singleShot(0, qApp, [act = std::move(act)] {
+inline void whenModal(std::function<void(toolkit::Form&)> act, int patience = 1000) {
+    QTimer::singleShot(0, qApp, [act = std::move(act), patience] {
         auto* form = qobject_cast<toolkit::Form*>(QApplication::activeModalWidget());
-        QVERIFY(form != nullptr);
+        if (form == nullptr) { // not yet: whoever opens it may let events through before
+            QVERIFY(patience > 0);
+            whenModal(act, patience - 1);
+            return;
+        }
         act(*form);
         if (form->isVisible()) {
             form->unload();
