@@ -4,6 +4,7 @@
 #include "core/Main.h"
 #include "core/Principale.h"
 #include "desktop/Schermo.h"
+#include "desktop/TastoAiuto.h"
 #include "platform/host/ProgramDirectory.h"
 #include "platform/host/Services.h"
 #include "platform/host/SingleInstance.h"
@@ -77,6 +78,7 @@ int avvia(int& argc, char** argv) {
     toolkit::setPrinterDialog(&printerDialog);
     host::setCursor(&cursor);
     host::setDisplay(&schermo);
+    const TastoAiuto tastoAiuto;
 
     const host::SingleInstance instance(host::programDirectory());
     if (!instance.isFirst()) {

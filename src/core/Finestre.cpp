@@ -1,22 +1,13 @@
 #include "core/Finestre.h"
 
 #include "cards/mdiScheda.h"
+#include "desktop/FinestraGuida.h"
 #include "desktop/frmAbout.h"
 #include "desktop/frmPersonalizza.h"
 #include "printing/PrinterDaNonFare.h"
 #include "templates/SchedeMODELLOSelezione.h"
 
-#include <QStringList>
-
 namespace finestre {
-
-bool pronto(const QString& comando) {
-    static const QStringList mancanti{
-        QStringLiteral("mnuHelpHelp"),
-        QStringLiteral("mnuHelpManuale"),
-    };
-    return !mancanti.contains(comando);
-}
 
 void caricaScheda() {
     mdiScheda::comune().load();
@@ -46,6 +37,12 @@ void mostraAvvertenze() {
 
 void mostraInformazioni() {
     frmAbout::comune().showModal();
+}
+
+void chiudiGuida() {
+    if (FinestraGuida::esiste()) {
+        FinestraGuida::comune().unload();
+    }
 }
 
 } // namespace finestre

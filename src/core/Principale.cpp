@@ -8,6 +8,7 @@
 #include "core/ImmaginiToolbar.h"
 #include "core/db.h"
 #include "core/variabiliGlobali.h"
+#include "desktop/testClassi.h"
 #include "figures/RidimensionatoreImmagini.h"
 #include "platform/host/Process.h"
 #include "platform/host/ProgramDirectory.h"
@@ -15,6 +16,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QToolButton>
 #include <utility>
 
@@ -72,18 +74,9 @@ Principale::Principale()
     toolkit::place(logoQD, 0, 0, 6000, 1800);
     logoQD.setImage(artwork::logo(artwork::Logo::QuiverDeck, {1200, 360}));
     toolkit::place(test, 120, 120, 1215, 375);
-    test.hide();
+    test.hide(); // a developer's: Ctrl+Shift+F12 shows it
+    connect(&test, &QPushButton::clicked, this, [] { testClassi::esegui(); });
 
-    for (QAction* action : menu.findChildren<QAction*>()) {
-        if (!action->objectName().isEmpty() && action->menu() == nullptr) {
-            action->setEnabled(finestre::pronto(action->objectName()));
-        }
-    }
-    for (int position = 1; position <= Toolbar1.count(); ++position) {
-        if (!Toolbar1.isSeparator(position)) {
-            Toolbar1.setButtonEnabled(position, finestre::pronto(comandoDi(Toolbar1.key(position))));
-        }
-    }
     connect(&menu, &MenuPrincipale::scelta, this, &Principale::comando);
     connect(&Toolbar1, &toolkit::Toolbar::buttonClick, this, &Principale::Toolbar1_ButtonClick);
 }
@@ -119,9 +112,18 @@ void Principale::onResize() {
 
 void Principale::onUnload() {
     variabiliGlobali::inChiusura = true;
+    finestre::chiudiGuida();
     finestre::scaricaScheda();
     QCoreApplication::postEvent(this, new QCloseEvent);
     menu.spoglia();
+}
+
+void Principale::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F12 && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier)) {
+        test.setVisible(!test.isVisible());
+        return;
+    }
+    Form::keyPressEvent(event);
 }
 
 void Principale::nascondi() {
@@ -143,6 +145,7 @@ void Principale::comando(const QString& nome) {
         {QStringLiteral("mnuSchedeGestioneModello"),
          [](Principale& finestra) { finestra.mnuSchedeGestioneModello(); }},
         {QStringLiteral("mnuSchedeCosaNonFare"), [](Principale&) { finestre::mostraAvvertenze(); }},
+        {QStringLiteral("mnuHelpHelp"), [](Principale& finestra) { finestra.mnuHelpHelp(); }},
         {QStringLiteral("mnuHelpManuale"), [](Principale& finestra) { finestra.mnuHelpManuale(); }},
         {QStringLiteral("mnuHelpAbout"), [](Principale&) { finestre::mostraInformazioni(); }},
     };
@@ -219,6 +222,12 @@ void Principale::mnuSchedeGestioneModello() {
     if (variabiliGlobali::idModelloSelezionato > 0) {
         apriScheda();
     }
+}
+
+void Principale::mnuHelpHelp() {
+    setFocus();
+    QKeyEvent tasto(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QCoreApplication::sendEvent(this, &tasto);
 }
 
 void Principale::mnuHelpManuale() {

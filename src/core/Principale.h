@@ -23,6 +23,7 @@ protected:
     void onLoad() override;
     void onResize() override;
     void onUnload() override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void comando(const QString& nome);
@@ -33,6 +34,7 @@ private:
     void mnuSchedeApri();
     void mnuSchedeDaModello();
     void mnuSchedeGestioneModello();
+    void mnuHelpHelp();
     void mnuHelpManuale();
 
     static void azzeraScelte();

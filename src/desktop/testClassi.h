@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// What a developer tries by hand, behind the main window's button `test`. It reads the store and writes
+/// nothing to it.
+namespace testClassi {
+
+/// The rows of each table, a line each; a table that cannot be read tells why.
+QString conteggi();
+
+/// Shows the window of the try-outs, modal.
+void esegui();
+
+} // namespace testClassi

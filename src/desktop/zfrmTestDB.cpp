@@ -1,0 +1,26 @@
+#include "desktop/zfrmTestDB.h"
+
+#include "desktop/frmDisplay.h"
+#include "desktop/testClassi.h"
+#include "desktop/zTESTDragAndDrop.h"
+#include "desktop/zTestTreeViewImage.h"
+#include "platform/toolkit/Twips.h"
+
+using namespace Qt::StringLiterals;
+
+zfrmTestDB::zfrmTestDB()
+    : Form(u"zfrmTestDB"_s), cmdConteggi(u"cmdConteggi"_s, u"Righe delle tabelle"_s, client()),
+      cmdDragAndDrop(u"cmdDragAndDrop"_s, u"Trascinamento"_s, client()),
+      cmdTreeViewImage(u"cmdTreeViewImage"_s, u"Albero di immagini"_s, client()) {
+    setCaption(u"Tests"_s);
+    setInnerSize(3600, 1905);
+    toolkit::place(cmdConteggi, 300, 300, 3000, 375);
+    toolkit::place(cmdDragAndDrop, 300, 765, 3000, 375);
+    toolkit::place(cmdTreeViewImage, 300, 1230, 3000, 375);
+    connect(&cmdConteggi, &QPushButton::clicked, this, [] {
+        frmDisplay::comune().stampa(testClassi::conteggi());
+        frmDisplay::comune().showModal();
+    });
+    connect(&cmdDragAndDrop, &QPushButton::clicked, this, [] { zTESTDragAndDrop::comune().showModal(); });
+    connect(&cmdTreeViewImage, &QPushButton::clicked, this, [] { zTestTreeViewImage::comune().showModal(); });
+}
