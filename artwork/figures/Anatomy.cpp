@@ -48,25 +48,41 @@ private:
         const auto& w = s_.waist;
         const auto& c = s_.chest;
         const auto g = Group::Torso;
-        add(g, Part::Pelvis, Material::Shorts, p.point({-0.5F, 5.2F, 4.5F}), 9.4F, p.point({-0.5F, -5.2F, 4.5F}), 9.4F);
+        add(g, Part::Pelvis, Material::Shorts, p.point({-0.5F, 5.2F, 4.5F}), 9.4F,
+            p.point({-0.5F, -5.2F, 4.5F}), 9.4F);
         for (int side : {Left, Right}) {
             const float o = outward(side);
-            add(g, Part::Pelvis, Material::Shirt, p.point({0, 3.8F * o, 9}), 8.8F, w.point({0, 3.6F * o, 7}), 8.6F);
-            add(g, Part::Chest, Material::Shirt, w.point({0, 3.6F * o, 6}), 8.6F, c.point({0, 4.2F * o, 5}), 9.0F);
-            add(g, Part::Chest, Material::Shirt, c.point({0, 4.2F * o, 5}), 9.0F, c.point({-0.4F, 5.6F * o, 16}), 9.6F);
-            add(g, Part::Chest, Material::Shirt, c.point({-0.8F, 6.5F * o, 18}), 7.8F, c.point({-1.2F, 8.5F * o, 21.5F}), 5.6F);
-            add(g, Part::Pelvis, Material::Shirt, p.point({5.6F, 2.5F * o, 6.5F}), 3.9F, w.point({5.8F, 2.5F * o, 5}), 3.9F, "ADD");
-            add(g, Part::Chest, Material::Shirt, w.point({5.8F, 2.5F * o, 5}), 3.9F, c.point({6.0F, 2.5F * o, 6}), 4.0F, "ADD");
-            add(g, Part::Pelvis, Material::Shirt, p.point({0.8F, 8.8F * o, 9.5F}), 4.6F, w.point({0.8F, 8.2F * o, 5}), 4.8F, "FI1");
-            add(g, Part::Chest, Material::Shirt, w.point({0.8F, 8.2F * o, 5}), 4.8F, c.point({1.0F, 9.2F * o, 4}), 4.8F, "FI1");
-            add(g, Part::Pelvis, Material::Shirt, p.point({-6.0F, 3.0F * o, 8}), 3.8F, w.point({-5.9F, 3.0F * o, 4}), 3.6F, "ERE");
-            add(g, Part::Chest, Material::Shirt, w.point({-5.9F, 3.0F * o, 4}), 3.6F, c.point({-6.8F, 3.2F * o, 9}), 3.6F, "ERE");
-            add(g, Part::Chest, Material::Shirt, w.point({-4.2F, 6.8F * o, 4}), 4.4F, c.point({-4.8F, 8.8F * o, 8}), 5.2F, "DOR");
-            add(g, Part::Chest, Material::Shirt, c.point({-4.8F, 8.8F * o, 8}), 5.2F, c.point({-3.6F, 11.6F * o, 16.5F}), 4.8F, "DOR");
-            add(g, Part::Chest, Material::Shirt, c.point({6.0F, 5.2F * o, 14}), 4.8F, c.point({4.2F, 10.5F * o, 18}), 4.8F, "PET");
-            add(g, Part::Chest, Material::Shirt, c.point({-6.8F, 2.2F * o, 14}), 3.2F, c.point({-5.2F, 4.2F * o, 22.5F}), 4.2F, "TRA");
+            add(g, Part::Pelvis, Material::Shirt, p.point({0, 3.8F * o, 9}), 8.8F, w.point({0, 3.6F * o, 7}),
+                8.6F);
+            add(g, Part::Chest, Material::Shirt, w.point({0, 3.6F * o, 6}), 8.6F, c.point({0, 4.2F * o, 5}),
+                9.0F);
+            add(g, Part::Chest, Material::Shirt, c.point({0, 4.2F * o, 5}), 9.0F,
+                c.point({-0.4F, 5.6F * o, 16}), 9.6F);
+            add(g, Part::Chest, Material::Shirt, c.point({-0.8F, 6.5F * o, 18}), 7.8F,
+                c.point({-1.2F, 8.5F * o, 21.5F}), 5.6F);
+            add(g, Part::Pelvis, Material::Shirt, p.point({5.6F, 2.5F * o, 6.5F}), 3.9F,
+                w.point({5.8F, 2.5F * o, 5}), 3.9F, "ADD");
+            add(g, Part::Chest, Material::Shirt, w.point({5.8F, 2.5F * o, 5}), 3.9F,
+                c.point({6.0F, 2.5F * o, 6}), 4.0F, "ADD");
+            add(g, Part::Pelvis, Material::Shirt, p.point({0.8F, 8.8F * o, 9.5F}), 4.6F,
+                w.point({0.8F, 8.2F * o, 5}), 4.8F, "FI1");
+            add(g, Part::Chest, Material::Shirt, w.point({0.8F, 8.2F * o, 5}), 4.8F,
+                c.point({1.0F, 9.2F * o, 4}), 4.8F, "FI1");
+            add(g, Part::Pelvis, Material::Shirt, p.point({-6.0F, 3.0F * o, 8}), 3.8F,
+                w.point({-5.9F, 3.0F * o, 4}), 3.6F, "ERE");
+            add(g, Part::Chest, Material::Shirt, w.point({-5.9F, 3.0F * o, 4}), 3.6F,
+                c.point({-6.8F, 3.2F * o, 9}), 3.6F, "ERE");
+            add(g, Part::Chest, Material::Shirt, w.point({-4.2F, 6.8F * o, 4}), 4.4F,
+                c.point({-4.8F, 8.8F * o, 8}), 5.2F, "DOR");
+            add(g, Part::Chest, Material::Shirt, c.point({-4.8F, 8.8F * o, 8}), 5.2F,
+                c.point({-3.6F, 11.6F * o, 16.5F}), 4.8F, "DOR");
+            add(g, Part::Chest, Material::Shirt, c.point({6.0F, 5.2F * o, 14}), 4.8F,
+                c.point({4.2F, 10.5F * o, 18}), 4.8F, "PET");
+            add(g, Part::Chest, Material::Shirt, c.point({-6.8F, 2.2F * o, 14}), 3.2F,
+                c.point({-5.2F, 4.2F * o, 22.5F}), 4.2F, "TRA");
         }
-        add(g, Part::Chest, Material::Skin, c.point({-1.6F, 0, 25}), 5.6F, s_.head.point({-0.8F, 0, 3}), 5.3F);
+        add(g, Part::Chest, Material::Skin, c.point({-1.6F, 0, 25}), 5.6F, s_.head.point({-0.8F, 0, 3}),
+            5.3F);
     }
 
     void head() {
@@ -78,15 +94,17 @@ private:
         add(g, Part::Head, skin, h.point({4.6F, 0, 3.0F}), 4.4F, h.point({5.6F, 0, 0.6F}), 3.0F);
         for (int side : {Left, Right}) {
             const float o = outward(side);
-            add(g, Part::Head, skin, h.point({0.6F, 3.6F * o, 4.4F}), 3.4F, h.point({4.6F, 1.4F * o, 1.2F}), 3.0F);
-            add(g, Part::Head, skin, h.point({-0.4F, 8.0F * o, 8.4F}), 1.5F, h.point({-0.2F, 7.6F * o, 6.0F}), 1.1F);
+            add(g, Part::Head, skin, h.point({0.6F, 3.6F * o, 4.4F}), 3.4F, h.point({4.6F, 1.4F * o, 1.2F}),
+                3.0F);
+            add(g, Part::Head, skin, h.point({-0.4F, 8.0F * o, 8.4F}), 1.5F, h.point({-0.2F, 7.6F * o, 6.0F}),
+                1.1F);
         }
         add(g, Part::Head, skin, h.point({9.2F, 0, 8.6F}), 0.8F, h.point({10.6F, 0, 6.0F}), 1.15F);
         for (int i = 0; i < 2; ++i) {
-            Shape& hair = i == 0 ? add(Group::Hair, Part::Head, Material::Hair, h.point({-2.0F, 0, 11.2F}), 9.0F,
-                                       h.point({1.2F, 0, 12.0F}), 8.3F)
-                                 : add(Group::Hair, Part::Head, Material::Hair, h.point({-3.6F, 0, 9.0F}), 7.8F,
-                                       h.point({-4.2F, 0, 4.4F}), 5.4F);
+            Shape& hair = i == 0 ? add(Group::Hair, Part::Head, Material::Hair, h.point({-2.0F, 0, 11.2F}),
+                                       9.0F, h.point({1.2F, 0, 12.0F}), 8.3F)
+                                 : add(Group::Hair, Part::Head, Material::Hair, h.point({-3.6F, 0, 9.0F}),
+                                       7.8F, h.point({-4.2F, 0, 4.4F}), 5.4F);
             const Vec3 normal = h.direction(unit({0.80F, 0, -0.60F}));
             hair.cut(normal, dot(normal, h.point({6.2F, 0, 15.2F})));
         }
@@ -99,8 +117,8 @@ private:
         const auto g = sidedGroup(Group::ArmLeft, side);
         add(Group::Torso, Part::Chest, Material::Shirt, c.point({-2.2F, 2.6F * o, 29.5F}), 3.4F,
             u.from + c.direction({-0.8F, -2.5F * o, 1.4F}), 4.0F, "TRA");
-        add(g, sided(Part::UpperArm, side), Material::Skin, u.from + c.direction({0.9F, 0.4F * o, 0.2F}), 5.3F,
-            u.point(0.34F, 0.9F, 1.2F), 4.1F, "DAL");
+        add(g, sided(Part::UpperArm, side), Material::Skin, u.from + c.direction({0.9F, 0.4F * o, 0.2F}),
+            5.3F, u.point(0.34F, 0.9F, 1.2F), 4.1F, "DAL");
         add(g, sided(Part::UpperArm, side), Material::Skin, u.from + c.direction({-2.6F, 0.0F, -0.4F}), 4.5F,
             u.point(0.28F, -1.4F, 0.9F), 3.7F, "DEP");
     }
@@ -112,10 +130,14 @@ private:
         const auto fore = sided(Part::Forearm, side);
         const auto skin = Material::Skin;
         add(g, upper, skin, a.upper.point(0.1F, 0, 0), 4.2F, a.upper.point(1, 0, 0), 3.4F);
-        add(g, upper, skin, a.upper.point(0.36F, 1.7F, 0.2F), 3.0F, a.upper.point(0.58F, 1.8F, 0.1F), 3.2F, "BIC");
-        add(g, upper, skin, a.upper.point(0.58F, 1.8F, 0.1F), 3.2F, a.upper.point(0.86F, 1.0F, 0), 2.7F, "BIC");
-        add(g, upper, skin, a.upper.point(0.20F, -1.7F, 0), 3.2F, a.upper.point(0.50F, -2.0F, 0.2F), 3.2F, "TRI");
-        add(g, upper, skin, a.upper.point(0.50F, -2.0F, 0.2F), 3.2F, a.upper.point(0.90F, -1.0F, 0.1F), 2.6F, "TRI");
+        add(g, upper, skin, a.upper.point(0.36F, 1.7F, 0.2F), 3.0F, a.upper.point(0.58F, 1.8F, 0.1F), 3.2F,
+            "BIC");
+        add(g, upper, skin, a.upper.point(0.58F, 1.8F, 0.1F), 3.2F, a.upper.point(0.86F, 1.0F, 0), 2.7F,
+            "BIC");
+        add(g, upper, skin, a.upper.point(0.20F, -1.7F, 0), 3.2F, a.upper.point(0.50F, -2.0F, 0.2F), 3.2F,
+            "TRI");
+        add(g, upper, skin, a.upper.point(0.50F, -2.0F, 0.2F), 3.2F, a.upper.point(0.90F, -1.0F, 0.1F), 2.6F,
+            "TRI");
         add(g, fore, skin, a.lower.from, 3.4F, a.lower.point(0.28F, 0.5F, 0.3F), 3.9F);
         add(g, fore, skin, a.lower.point(0.28F, 0.5F, 0.3F), 3.9F, a.lower.to, 2.5F);
     }
@@ -146,8 +168,12 @@ private:
             add(g, part, skin, h.point(mid), 1.0F, h.point(tip), 0.85F);
         }
         const Vec3 t0{2.6F, 2.2F, -0.4F};
-        const Vec3 t1 = grip ? Vec3{6.4F, 3.9F, -2.6F} : open ? Vec3{5.6F, 4.8F, -0.3F} : Vec3{6.2F, 3.9F, -1.2F};
-        const Vec3 t2 = grip ? Vec3{9.2F, 3.0F, -5.0F} : open ? Vec3{8.4F, 6.0F, -0.3F} : Vec3{8.8F, 3.7F, -2.4F};
+        const Vec3 t1 = grip   ? Vec3{6.4F, 3.9F, -2.6F}
+                        : open ? Vec3{5.6F, 4.8F, -0.3F}
+                               : Vec3{6.2F, 3.9F, -1.2F};
+        const Vec3 t2 = grip   ? Vec3{9.2F, 3.0F, -5.0F}
+                        : open ? Vec3{8.4F, 6.0F, -0.3F}
+                               : Vec3{8.8F, 3.7F, -2.4F};
         add(g, part, skin, h.point(t0), 1.6F, h.point(t1), 1.2F);
         add(g, part, skin, h.point(t1), 1.2F, h.point(t2), 0.95F);
     }
@@ -185,7 +211,8 @@ private:
         const auto part = sided(Part::Shank, side);
         const auto skin = Material::Skin;
         const auto& t = leg(side).thigh;
-        add(g, part, skin, mix(t.point(0.99F, 1.6F, 0), k.point(0.01F, 1.6F, 0), 0.5F), 4.3F, k.point(0.1F, 0.8F, 0), 4.2F);
+        add(g, part, skin, mix(t.point(0.99F, 1.6F, 0), k.point(0.01F, 1.6F, 0), 0.5F), 4.3F,
+            k.point(0.1F, 0.8F, 0), 4.2F);
         add(g, part, skin, k.point(0.05F, 0, 0), 4.7F, k.point(1, 0, 0), 3.1F);
         add(g, part, skin, k.point(0.10F, -1.6F, -1.8F), 3.6F, k.point(0.36F, -2.3F, -1.7F), 3.7F, "POL");
         add(g, part, skin, k.point(0.10F, -1.6F, 1.7F), 3.6F, k.point(0.33F, -2.2F, 1.7F), 3.6F, "POL");

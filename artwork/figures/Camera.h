@@ -4,14 +4,15 @@
 
 namespace figures {
 
-/// Parallel projection: where the viewer stands, what lies in the middle, and how many pixels a centimetre takes.
+/// Parallel projection: where the viewer stands, what lies in the middle, and how many pixels a centimetre
+/// takes.
 struct Camera {
     Vec3 right{0, 1, 0};
     Vec3 up{0, 0, 1};
     Vec3 into{1, 0, 0}; ///< from the viewer into the picture
     float middleX = 0;  ///< picture coordinates (cm along right and up) of the frame's middle
     float middleY = 0;
-    float scale = 4;    ///< pixels per cm
+    float scale = 4; ///< pixels per cm
     int width = 960;
     int height = 900;
 
@@ -30,8 +31,8 @@ struct Camera {
     float depth(const Vec3& p) const { return dot(p, into); }
     /// The point on the ray of a pixel at depth 0.
     Vec3 start(float px, float py) const {
-        return right * ((px - static_cast<float>(width) / 2) / scale + middleX)
-               + up * ((static_cast<float>(height) / 2 - py) / scale + middleY);
+        return right * ((px - static_cast<float>(width) / 2) / scale + middleX) +
+               up * ((static_cast<float>(height) / 2 - py) / scale + middleY);
     }
     /// The same view with `n` times the pixels.
     Camera finer(int n) const {

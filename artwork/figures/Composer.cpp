@@ -45,8 +45,8 @@ void fit(Camera& camera, const Bounds& b, bool small) {
     const float h = (static_cast<float>(camera.height) - 2 * border) / (b.high - b.low);
     camera.scale = std::min({w, h, small ? 100.0F : largestScale});
     if (!small && camera.scale < smallestScale) {
-        throw PoseError("the figure leaves the frame: " + std::to_string(static_cast<int>(b.right - b.left)) + " x "
-                        + std::to_string(static_cast<int>(b.high - b.low)) + " cm do not fit");
+        throw PoseError("the figure leaves the frame: " + std::to_string(static_cast<int>(b.right - b.left)) +
+                        " x " + std::to_string(static_cast<int>(b.high - b.low)) + " cm do not fit");
     }
     camera.middleX = (b.left + b.right) / 2;
     camera.middleY = (b.low + b.high) / 2;
@@ -91,8 +91,8 @@ void layGhost(SampleMap& picture, const SampleMap& ghost) {
     }
 }
 
-/// The way a joint takes from one position to the other, shifted as the arrow asks. An arrow with one head points to
-/// the position that is trained.
+/// The way a joint takes from one position to the other, shifted as the arrow asks. An arrow with one head
+/// points to the position that is trained.
 std::vector<Vec3> roadOf(const Arrow& arrow, const Pose& pose, const Solver& solver, const Skeleton& first,
                          const Skeleton& second, const Camera& camera) {
     constexpr int steps = 12;
@@ -163,11 +163,13 @@ QImage Composer::draw(const Pose& pose, std::uint32_t trained, int wide, int hig
     Shapes casters = body;
     casters.insert(casters.end(), held.begin(), held.end());
     for (const auto& s : room.shapes()) {
-        if (s.material == Material::Ball || s.material == Material::Cushion || s.material == Material::Column) {
+        if (s.material == Material::Ball || s.material == Material::Cushion ||
+            s.material == Material::Column) {
             casters.push_back(s);
         }
     }
-    const Shadow plateShadow(casters, joints, {0, 0, plateTop}, Room::plateHalf, Room::plateHalf, plateTop, 1.5F);
+    const Shadow plateShadow(casters, joints, {0, 0, plateTop}, Room::plateHalf, Room::plateHalf, plateTop,
+                             1.5F);
 
     Shapes all = body;
     all.insert(all.end(), things.begin(), things.end());

@@ -37,15 +37,20 @@ void ContactSheet::make(const std::vector<Row>& rows, const std::filesystem::pat
             }
             const int x = static_cast<int>(i % columns) * cellWide;
             const int y = static_cast<int>(i / columns) * cellHigh;
-            const QImage small = figure.scaled(cellWide - 6, 200, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+            const QImage small =
+                figure.scaled(cellWide - 6, 200, Qt::KeepAspectRatio, Qt::SmoothTransformation);
             painter.drawImage(x + (cellWide - small.width()) / 2, y, small);
             QString muscles;
             for (const auto& m : row.muscles) {
                 muscles += QLatin1Char(' ') + QString::fromStdString(m);
             }
             painter.drawText(QRect(x, y + 201, cellWide, 16), Qt::AlignCenter,
-                             QStringLiteral("%1 [%2]%3").arg(QString::fromStdString(row.code)).arg(row.number).arg(muscles));
-            painter.drawText(QRect(x + 2, y + 215, cellWide - 4, 16), Qt::AlignCenter, QString::fromStdString(row.name));
+                             QStringLiteral("%1 [%2]%3")
+                                 .arg(QString::fromStdString(row.code))
+                                 .arg(row.number)
+                                 .arg(muscles));
+            painter.drawText(QRect(x + 2, y + 215, cellWide - 4, 16), Qt::AlignCenter,
+                             QString::fromStdString(row.name));
         }
         painter.end();
         const auto file = out / ("figure-" + std::to_string(sheet) + ".jpg");

@@ -10,7 +10,8 @@ inline float join(float a, float b, float k) {
 }
 
 /// How softly the shapes of one group run into each other, in cm; by Group.
-constexpr std::array<float, 12> softness = {3.2F, 1.6F, 1.6F, 1.6F, 0.45F, 0.45F, 1.8F, 1.8F, 1.2F, 1.2F, 1.0F, 0.01F};
+constexpr std::array<float, 12> softness = {3.2F, 1.6F, 1.6F, 1.6F, 0.45F, 0.45F,
+                                            1.8F, 1.8F, 1.2F, 1.2F, 1.0F,  0.01F};
 
 /// No two groups feel each other over a greater distance.
 constexpr float farthestJoin = 3.6F;
@@ -76,8 +77,8 @@ Vec3 Field::normal(const List& shapes, const Joints& joints, const Vec3& p) {
     const Vec3 k1{-1, -1, 1};
     const Vec3 k2{-1, 1, -1};
     const Vec3 k3{1, 1, 1};
-    return unit(k0 * distance(shapes, joints, p + k0 * e) + k1 * distance(shapes, joints, p + k1 * e)
-                + k2 * distance(shapes, joints, p + k2 * e) + k3 * distance(shapes, joints, p + k3 * e));
+    return unit(k0 * distance(shapes, joints, p + k0 * e) + k1 * distance(shapes, joints, p + k1 * e) +
+                k2 * distance(shapes, joints, p + k2 * e) + k3 * distance(shapes, joints, p + k3 * e));
 }
 
 Field::Owner Field::owner(const List& shapes, const Vec3& p, std::uint32_t trained) {

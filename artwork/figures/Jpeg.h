@@ -11,7 +11,8 @@ class Jpeg {
 public:
     static constexpr int heaviest = 80 * 1024 - 1; ///< bytes
 
-    /// Quality 90, a little less where that would be too heavy. Throws PoseError when the file cannot be written.
+    /// Quality 90, a little less where that would be too heavy. Throws PoseError when the file cannot be
+    /// written.
     static void save(const QImage& image, const std::filesystem::path& file);
 };
 

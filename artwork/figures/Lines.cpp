@@ -37,7 +37,8 @@ void Lines::draw(SampleMap& picture, int fine) {
                 crease = std::max(crease, std::fabs(step(picture, x, y, dx * thin, dy * thin)));
             }
             const int diagonal = std::max(1, wide * 7 / 10);
-            near = std::max({near, step(picture, x, y, diagonal, diagonal), step(picture, x, y, diagonal, -diagonal)});
+            near = std::max(
+                {near, step(picture, x, y, diagonal, diagonal), step(picture, x, y, diagonal, -diagonal)});
             float line = smoothstep(2.5F, 6.0F, near);
             line = std::max(line, 0.75F * smoothstep(0.35F, 1.3F, crease));
             bool border = false;
@@ -52,18 +53,20 @@ void Lines::draw(SampleMap& picture, int fine) {
             if (border) {
                 line = std::max(line, 0.55F);
             }
-            strength[static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width) + static_cast<std::size_t>(x)] =
-                line * (object ? 0.62F : 0.86F);
+            strength[static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width) +
+                     static_cast<std::size_t>(x)] = line * (object ? 0.62F : 0.86F);
         }
     }
     for (std::size_t i = 0; i < strength.size(); ++i) {
         Sample& s = picture.samples[i];
         if (strength[i] > 0.01F) {
             const auto dark = [&](int c, int ink) {
-                return static_cast<int>(std::lround(static_cast<float>(c) * (1 - strength[i])
-                                                    + (static_cast<float>(c) * 0.22F + static_cast<float>(ink)) * strength[i]));
+                return static_cast<int>(
+                    std::lround(static_cast<float>(c) * (1 - strength[i]) +
+                                (static_cast<float>(c) * 0.22F + static_cast<float>(ink)) * strength[i]));
             };
-            s.colour = qRgba(dark(qRed(s.colour), 14), dark(qGreen(s.colour), 16), dark(qBlue(s.colour), 28), 255);
+            s.colour =
+                qRgba(dark(qRed(s.colour), 14), dark(qGreen(s.colour), 16), dark(qBlue(s.colour), 28), 255);
         }
         if (s.key >= objectKey) {
             s.key |= 0x8000; // the ghost may be laid over things, never over the body

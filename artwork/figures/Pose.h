@@ -43,10 +43,10 @@ struct ArmPose {
     Kind kind = Angles;
     Shape shape = Auto;
     std::string surface = "plate";
-    Vec3 at;            ///< place, y outwards
-    float turn = 0;     ///< fingers outwards (Flat, Forearm)
-    float along = 0;    ///< distance from the middle of a stick
-    bool under = false; ///< underhand grip
+    Vec3 at;                                           ///< place, y outwards
+    float turn = 0;                                    ///< fingers outwards (Flat, Forearm)
+    float along = 0;                                   ///< distance from the middle of a stick
+    bool under = false;                                ///< underhand grip
     float elev = 8, plane = 60, elbow = 12, twist = 0; ///< Angles
     bool hasElbow = false, hasPalm = false;
     Vec3 elbowTo, palmTo; ///< wished directions, figure frame, y outwards
@@ -61,10 +61,10 @@ struct Accessory {
 };
 
 struct Arrow {
-    std::string point;  ///< joint whose road is shown
-    float dx = 0;       ///< shift on the picture, cm to the right
-    float dy = 0;       ///< and upwards
-    bool both = true;   ///< a head at either end
+    std::string point; ///< joint whose road is shown
+    float dx = 0;      ///< shift on the picture, cm to the right
+    float dy = 0;      ///< and upwards
+    bool both = true;  ///< a head at either end
 };
 
 /// One position of the body.

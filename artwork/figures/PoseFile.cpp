@@ -102,7 +102,8 @@ void PoseFile::statements(const std::string& text, const std::string& name, int 
         }
         if (words[0] == "like") {
             if (depth > 3 || words.size() != 2) {
-                throw PoseError(name + ":" + std::to_string(n) + ": \"like\" takes one name, four deep at most");
+                throw PoseError(name + ":" + std::to_string(n) +
+                                ": \"like\" takes one name, four deep at most");
             }
             const auto file = folder_ / (words[1] + ".pose");
             statements(contents(file), file.filename().string(), depth + 1);
@@ -187,7 +188,8 @@ void PoseFile::accessory(const Words& words) {
         a.right = !a.left;
         ++at;
     }
-    options(words, at, {{"x", &a.at.x}, {"y", &a.at.y}, {"z", &a.at.z}, {"turn", &a.turn}, {"size", &a.size}});
+    options(words, at,
+            {{"x", &a.at.x}, {"y", &a.at.y}, {"z", &a.at.z}, {"turn", &a.turn}, {"size", &a.size}});
     pose_.accessories.push_back(a);
 }
 
@@ -241,8 +243,12 @@ void PoseFile::sidedStatement(const std::string& what, const std::string& sides,
             foot(leg, words);
         } else if (what == "leg") {
             leg.kind = LegPose::Angles;
-            options(words, 1, {{"flex", &leg.flex}, {"spread", &leg.spread}, {"roll", &leg.roll},
-                               {"knee", &leg.knee}, {"ankle", &leg.ankle}});
+            options(words, 1,
+                    {{"flex", &leg.flex},
+                     {"spread", &leg.spread},
+                     {"roll", &leg.roll},
+                     {"knee", &leg.knee},
+                     {"ankle", &leg.ankle}});
         } else if (what == "knee") {
             leg.hasPole = true;
             leg.pole = vector(words, 1);
@@ -250,7 +256,9 @@ void PoseFile::sidedStatement(const std::string& what, const std::string& sides,
             hand(arm, words);
         } else if (what == "arm") {
             arm.kind = ArmPose::Angles;
-            options(words, 1, {{"elev", &arm.elev}, {"plane", &arm.plane}, {"elbow", &arm.elbow}, {"twist", &arm.twist}});
+            options(
+                words, 1,
+                {{"elev", &arm.elev}, {"plane", &arm.plane}, {"elbow", &arm.elbow}, {"twist", &arm.twist}});
         } else if (what == "elbow") {
             arm.hasElbow = true;
             arm.elbowTo = vector(words, 1);
@@ -258,8 +266,10 @@ void PoseFile::sidedStatement(const std::string& what, const std::string& sides,
             arm.hasPalm = true;
             arm.palmTo = vector(words, 1);
         } else if (what == "fingers") {
-            static const std::map<std::string, ArmPose::Shape> shapes = {
-                {"relaxed", ArmPose::Relaxed}, {"open", ArmPose::Open}, {"grip", ArmPose::Grip}, {"auto", ArmPose::Auto}};
+            static const std::map<std::string, ArmPose::Shape> shapes = {{"relaxed", ArmPose::Relaxed},
+                                                                         {"open", ArmPose::Open},
+                                                                         {"grip", ArmPose::Grip},
+                                                                         {"auto", ArmPose::Auto}};
             const auto shape = shapes.find(word(words, 1));
             if (shape == shapes.end()) {
                 throw PoseError("fingers are relaxed, open, grip or auto");
@@ -325,7 +335,8 @@ void PoseFile::hand(ArmPose& arm, const Words& words) {
         arm.at = vector(words, 2);
         end(words, 5);
     } else {
-        throw PoseError("a hand holds bar or stick, lies flat or on its forearm, or is placed in chest, pelvis or world");
+        throw PoseError(
+            "a hand holds bar or stick, lies flat or on its forearm, or is placed in chest, pelvis or world");
     }
 }
 

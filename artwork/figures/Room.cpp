@@ -59,8 +59,8 @@ void Room::platform(bool column) {
     const Frame lean = Frame{}.at({h + 11, 0, 66}).turned(0, -2, 0);
     Shape& post = shapes_.emplace_back(Shape::box(lean, {5.2F, 8.5F, 62}, 3.6F));
     post.material = Material::Column;
-    Shape& stripe = shapes_.emplace_back(
-        Shape::box(lean.at(lean.point({-4.6F, 0, 2})), {1.2F, 3.2F, 46}, 1.0F));
+    Shape& stripe =
+        shapes_.emplace_back(Shape::box(lean.at(lean.point({-4.6F, 0, 2})), {1.2F, 3.2F, 46}, 1.0F));
     stripe.material = Material::Accent;
     const Frame console = Frame{}.at({h + 5, 0, 132}).turned(0, -32, 0);
     Shape& head = shapes_.emplace_back(Shape::box(console, {3.2F, 14, 10}, 2.6F));
@@ -144,8 +144,8 @@ Shapes Room::held(const Pose& pose, const Skeleton& skeleton) const {
             } else if (a.kind == "straps") {
                 // anchored in the plate's upper edge, on the side of the hand
                 const float ahead = a.at.x;
-                const Vec3 anchor = figure_.point({ahead, outward(side) * (a.at.y > 0 ? a.at.y : 22.0F), 0})
-                                    + Vec3{0, 0, support("plate").frame.origin.z + 0.4F};
+                const Vec3 anchor = figure_.point({ahead, outward(side) * (a.at.y > 0 ? a.at.y : 22.0F), 0}) +
+                                    Vec3{0, 0, support("plate").frame.origin.z + 0.4F};
                 const float l = length(grip - anchor);
                 if (l < 20 || l > 215) {
                     throw PoseError("a strap would be " + std::to_string(static_cast<int>(l)) + " cm long");

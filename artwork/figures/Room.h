@@ -36,7 +36,8 @@ public:
 
     /// Platform and accessories that do not hang on the body.
     const Shapes& shapes() const { return shapes_; }
-    /// Straps, dumbbells and sticks, which follow the hands. Throws PoseError when a strap is too long or short.
+    /// Straps, dumbbells and sticks, which follow the hands. Throws PoseError when a strap is too long or
+    /// short.
     Shapes held(const Pose& pose, const Skeleton& skeleton) const;
 
     /// The stick's middle and direction for a body.

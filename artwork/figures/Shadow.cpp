@@ -2,8 +2,8 @@
 
 namespace figures {
 
-Shadow::Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, float halfX, float halfY, float z,
-               float step)
+Shadow::Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, float halfX, float halfY,
+               float z, float step)
     : x0_(middle.x - halfX), y0_(middle.y - halfY), step_(step), nx_(static_cast<int>(2 * halfX / step) + 1),
       ny_(static_cast<int>(2 * halfY / step) + 1),
       dark_(static_cast<std::size_t>(nx_) * static_cast<std::size_t>(ny_), 0.0F) {

@@ -8,7 +8,8 @@ namespace figures {
 class Shadow {
 public:
     /// Samples the square of `half` cm round `middle` at height `z`, a value every `step` cm.
-    Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, float halfX, float halfY, float z, float step);
+    Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, float halfX, float halfY, float z,
+           float step);
 
     /// Darkness 0..1 at a place of the plane.
     float at(const Vec3& p) const;

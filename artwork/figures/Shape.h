@@ -11,28 +11,70 @@
 namespace figures {
 
 /// The muscle codes of the map, in the order of `Shape::muscle`.
-inline constexpr std::array<std::string_view, 18> muscleCodes = {
-    "ADU", "FI1", "FI2", "FI3", "ERE", "ICI", "ICE", "GLU", "POL",
-    "DOR", "TRA", "PET", "QUA", "TRI", "BIC", "DAL", "DEP", "ADD"};
+inline constexpr std::array<std::string_view, 18> muscleCodes = {"ADU", "FI1", "FI2", "FI3", "ERE", "ICI",
+                                                                 "ICE", "GLU", "POL", "DOR", "TRA", "PET",
+                                                                 "QUA", "TRI", "BIC", "DAL", "DEP", "ADD"};
 
 /// Index of a code in `muscleCodes`, nothing for another text.
 std::optional<int> muscleIndex(std::string_view code);
 
 enum class Material : std::uint8_t {
-    Skin, Shirt, Shorts, Shoe, Sole, Hair, Feature,
-    Plate, PlateTop, Column, Steel, Rubber, Screen, Accent,
-    Mat, Strap, Wood, Ball, Cushion, Ground
+    Skin,
+    Shirt,
+    Shorts,
+    Shoe,
+    Sole,
+    Hair,
+    Feature,
+    Plate,
+    PlateTop,
+    Column,
+    Steel,
+    Rubber,
+    Screen,
+    Accent,
+    Mat,
+    Strap,
+    Wood,
+    Ball,
+    Cushion,
+    Ground
 };
 
 /// Shapes of one group melt into each other; the groups are joined in this order.
 enum class Group : std::uint8_t {
-    Torso, Head, ArmLeft, ArmRight, HandLeft, HandRight, LegLeft, LegRight, ShoeLeft, ShoeRight, Hair, Object
+    Torso,
+    Head,
+    ArmLeft,
+    ArmRight,
+    HandLeft,
+    HandRight,
+    LegLeft,
+    LegRight,
+    ShoeLeft,
+    ShoeRight,
+    Hair,
+    Object
 };
 
 /// The part of the body a shape belongs to; sided parts add the side (0 left, 1 right).
 enum class Part : std::uint8_t {
-    Pelvis, Chest, Head, UpperArm, UpperArmR, Forearm, ForearmR, Hand, HandR,
-    Thigh, ThighR, Shank, ShankR, Foot, FootR, Thing
+    Pelvis,
+    Chest,
+    Head,
+    UpperArm,
+    UpperArmR,
+    Forearm,
+    ForearmR,
+    Hand,
+    HandR,
+    Thigh,
+    ThighR,
+    Shank,
+    ShankR,
+    Foot,
+    FootR,
+    Thing
 };
 constexpr Part sided(Part left, int side) {
     return static_cast<Part>(static_cast<int>(left) + side);

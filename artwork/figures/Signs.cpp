@@ -58,7 +58,8 @@ void Signs::arrow(QImage& image, const std::vector<QPointF>& road, bool both) {
     const QColor blue(22, 104, 190);
     const QPen halo(QColor(255, 255, 255, 235), 17, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     painter.strokePath(line, halo);
-    painter.strokePath(heads, QPen(QColor(255, 255, 255, 235), 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.strokePath(heads,
+                       QPen(QColor(255, 255, 255, 235), 8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.strokePath(line, QPen(blue, 9, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
     painter.fillPath(heads, blue);
 }

@@ -37,7 +37,7 @@ struct Bone {
 struct LegBones {
     Bone thigh;
     Bone shank;
-    Frame foot; ///< origin at the ankle, x to the toes, z away from the sole
+    Frame foot;        ///< origin at the ankle, x to the toes, z away from the sole
     float toeFlex = 0; ///< degrees the toes are bent up against the foot
 };
 

@@ -7,15 +7,16 @@ namespace {
 
 const std::array<const char*, 2> sideName = {"left", "right"};
 
-/// Middle joint of a two-bone chain from `root` to `target`, bent towards `pole`. `target` is pulled in when it is a
-/// hair too far; farther is an error. `hinge` becomes the axis about which the chain bends.
+/// Middle joint of a two-bone chain from `root` to `target`, bent towards `pole`. `target` is pulled in when
+/// it is a hair too far; farther is an error. `hinge` becomes the axis about which the chain bends.
 Vec3 middleJoint(const Vec3& root, Vec3& target, float l1, float l2, const Vec3& pole, const std::string& who,
                  Vec3& hinge) {
     const Vec3 way = target - root;
     float d = length(way);
     if (d > l1 + l2 + 1.0F || d < std::fabs(l1 - l2) + 0.5F) {
-        throw PoseError(who + " cannot reach its place: it is " + std::to_string(static_cast<int>(std::lround(d)))
-                        + " cm away, the limb spans " + std::to_string(static_cast<int>(l1 + l2)) + " cm");
+        throw PoseError(who + " cannot reach its place: it is " +
+                        std::to_string(static_cast<int>(std::lround(d))) + " cm away, the limb spans " +
+                        std::to_string(static_cast<int>(l1 + l2)) + " cm");
     }
     const Vec3 axis = unit(way);
     d = std::min(d, (l1 + l2) * 0.9995F);
@@ -52,15 +53,19 @@ bool Solver::holds(const std::string& kind, int side) const {
 void Solver::trunk(const BodyPose& body, Skeleton& s) const {
     const Frame& f = room_.figure();
     s.pelvis = f.at(f.point(body.pelvis)).turned(body.yaw, body.tilt, body.roll);
-    s.waist = s.pelvis.at(s.pelvis.point({0, 0, body::lumbar})).turned(body.twist / 2, body.bend / 2, body.side / 2);
-    s.chest = s.waist.at(s.waist.point({0, 0, body::thorax})).turned(body.twist / 2, body.bend / 2, body.side / 2);
+    s.waist = s.pelvis.at(s.pelvis.point({0, 0, body::lumbar}))
+                  .turned(body.twist / 2, body.bend / 2, body.side / 2);
+    s.chest =
+        s.waist.at(s.waist.point({0, 0, body::thorax})).turned(body.twist / 2, body.bend / 2, body.side / 2);
     float nod = body.nod;
     if (!body.hasHead) { // the eyes stay on the horizon as far as the neck lets them
         const float pitch = degrees(std::atan2(s.chest.az.x * f.ax.x + s.chest.az.y * f.ax.y, s.chest.az.z));
         nod = -std::clamp(pitch * 0.65F, -35.0F, 42.0F);
     }
-    const Frame neck = s.chest.at(s.chest.point({-1.6F, 0, body::neckUp})).turned(body.headTurn * 0.3F, nod * 0.5F, body.headSide * 0.5F);
-    s.head = neck.at(neck.point({0.6F, 0, body::neck})).turned(body.headTurn * 0.7F, nod * 0.5F, body.headSide * 0.5F);
+    const Frame neck = s.chest.at(s.chest.point({-1.6F, 0, body::neckUp}))
+                           .turned(body.headTurn * 0.3F, nod * 0.5F, body.headSide * 0.5F);
+    s.head = neck.at(neck.point({0.6F, 0, body::neck}))
+                 .turned(body.headTurn * 0.7F, nod * 0.5F, body.headSide * 0.5F);
 }
 
 Vec3 Solver::footForward(const LegPose& pose, int side) const {
@@ -86,6 +91,13 @@ void Solver::leg(const BodyPose& body, Skeleton& s, int side) const {
     const Frame& f = room_.figure();
     Vec3 ground = f.point({pose.at.x, pose.at.y * outward(side), pose.at.z});
     ground.z = pose.kind == LegPose::Stand ? room_.support(pose.surface).frame.origin.z : pose.at.z;
+    if (pose.kind == LegPose::Stand) {
+        const Support& support = room_.support(pose.surface);
+        if (support.topUnder(ground + fwd * body::ballAhead, 0) < 0 &&
+            support.topUnder(ground - fwd * body::heelBack, 0) < 0) {
+            throw PoseError(std::string("foot.") + sideName[i] + " stands beside the " + pose.surface);
+        }
+    }
     l.foot.ax = fwd;
     l.foot.az = up;
     l.foot.ay = cross(up, fwd);
@@ -118,8 +130,8 @@ void Solver::kneel(const LegPose& pose, Skeleton& s, int side) const {
     const float top = room_.support(pose.surface).frame.origin.z;
     const float drop = l.thigh.from.z - (top + 5.4F);
     if (drop > body::thigh + 1.0F || drop < -5) {
-        throw PoseError(std::string("foot.") + sideName[i] + " cannot kneel: the hip is "
-                        + std::to_string(static_cast<int>(drop)) + " cm over the knee");
+        throw PoseError(std::string("foot.") + sideName[i] + " cannot kneel: the hip is " +
+                        std::to_string(static_cast<int>(drop)) + " cm over the knee");
     }
     const float ahead = std::sqrt(std::max(0.0F, body::thigh * body::thigh - drop * drop)) * pose.fore;
     l.thigh.to = l.thigh.from + fwd * ahead - Vec3{0, 0, drop};
@@ -146,7 +158,8 @@ void Solver::legByAngles(const LegPose& pose, Skeleton& s, int side) const {
     const float fl = radians(pose.flex);
     const float sp = radians(pose.spread);
     const float o = outward(side);
-    const Vec3 d1 = s.pelvis.direction({std::sin(fl) * std::cos(sp), o * std::sin(sp), -std::cos(fl) * std::cos(sp)});
+    const Vec3 d1 =
+        s.pelvis.direction({std::sin(fl) * std::cos(sp), o * std::sin(sp), -std::cos(fl) * std::cos(sp)});
     const Vec3 front0 = perpendicular(s.pelvis.direction({std::cos(fl), 0, std::sin(fl)}), d1, s.pelvis.ax);
     const Vec3 out0 = cross(front0, d1) * o;
     const float r = radians(pose.roll);
@@ -167,16 +180,26 @@ void Solver::legByAngles(const LegPose& pose, Skeleton& s, int side) const {
 float Solver::gap(const Shapes& shapes, const Room& room, const std::string& part) {
     const auto wanted = [&part](const Shape& s) {
         switch (s.part) {
-        case Part::Pelvis: return part == "pelvis";
-        case Part::Chest: return part == "back";
-        case Part::Head: return part == "head";
-        case Part::Thigh: return part == "thigh.left";
-        case Part::ThighR: return part == "thigh.right";
-        case Part::Shank: return part == "calf.left";
-        case Part::ShankR: return part == "calf.right";
-        case Part::Forearm: return part == "forearm.left";
-        case Part::ForearmR: return part == "forearm.right";
-        default: return false;
+        case Part::Pelvis:
+            return part == "pelvis";
+        case Part::Chest:
+            return part == "back";
+        case Part::Head:
+            return part == "head";
+        case Part::Thigh:
+            return part == "thigh.left";
+        case Part::ThighR:
+            return part == "thigh.right";
+        case Part::Shank:
+            return part == "calf.left";
+        case Part::ShankR:
+            return part == "calf.right";
+        case Part::Forearm:
+            return part == "forearm.left";
+        case Part::ForearmR:
+            return part == "forearm.right";
+        default:
+            return false;
         }
     };
     float least = 1000;

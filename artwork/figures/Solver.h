@@ -4,7 +4,8 @@
 
 namespace figures {
 
-/// Puts a body in its place: trunk from the angles, limbs by inverse kinematics from where hands and feet belong.
+/// Puts a body in its place: trunk from the angles, limbs by inverse kinematics from where hands and feet
+/// belong.
 class Solver {
 public:
     Solver(const Room& room, const Pose& pose) : room_(room), pose_(pose) {}

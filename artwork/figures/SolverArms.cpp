@@ -3,7 +3,8 @@
 namespace figures {
 namespace {
 
-/// Palm and thumb of a hand that closes round `axis`, fingers pointing along `fingers` as far as the axis lets them.
+/// Palm and thumb of a hand that closes round `axis`, fingers pointing along `fingers` as far as the axis
+/// lets them.
 Frame handRound(const Vec3& fingers, const Vec3& thumb, int side) {
     Frame h;
     h.ay = unit(thumb);
@@ -29,8 +30,8 @@ void Solver::arm(const BodyPose& body, Skeleton& s, int side) const {
     const float o = outward(side);
     a.shape = pose.shape;
     if (pose.shape == ArmPose::Auto) {
-        const bool grips = pose.kind == ArmPose::Bar || pose.kind == ArmPose::Stick || holds("straps", side)
-                           || holds("dumbbells", side);
+        const bool grips = pose.kind == ArmPose::Bar || pose.kind == ArmPose::Stick ||
+                           holds("straps", side) || holds("dumbbells", side);
         const bool open = pose.kind == ArmPose::Flat || pose.kind == ArmPose::Forearm;
         a.shape = grips ? ArmPose::Grip : open ? ArmPose::Open : ArmPose::Relaxed;
     }
@@ -60,13 +61,16 @@ void Solver::armByAngles(const ArmPose& pose, Skeleton& s, int side) const {
     const float o = outward(side);
     const float e = radians(pose.elev);
     const float p = radians(pose.plane);
-    const Vec3 d1 = s.chest.direction({std::sin(e) * std::cos(p), o * std::sin(e) * std::sin(p), -std::cos(e)});
+    const Vec3 d1 =
+        s.chest.direction({std::sin(e) * std::cos(p), o * std::sin(e) * std::sin(p), -std::cos(e)});
     // "forward" carried along as the arm swings up in its plane
     const Vec3 axis = s.chest.direction({std::sin(p), -o * std::cos(p), 0}); // turning axis of the swing
     const Vec3 rest = s.chest.ax;
     const Vec3 kept = axis * dot(axis, rest);
     const Vec3 moving = rest - kept;
-    const Vec3 b0 = kept + moving * std::cos(e) + s.chest.az * (dot(moving, s.chest.direction({std::cos(p), o * std::sin(p), 0})) * std::sin(e));
+    const Vec3 b0 =
+        kept + moving * std::cos(e) +
+        s.chest.az * (dot(moving, s.chest.direction({std::cos(p), o * std::sin(p), 0})) * std::sin(e));
     const Vec3 bend0 = perpendicular(b0, d1, s.chest.ax);
     const Vec3 inner = cross(d1, bend0) * o; // towards the midline for a hanging arm
     const float t = radians(pose.twist);
@@ -101,18 +105,21 @@ void Solver::reach(const ArmPose& pose, Skeleton& s, int side, const Vec3& wrist
     const auto i = static_cast<std::size_t>(side);
     ArmBones& a = s.arm[i];
     const float o = outward(side);
-    const Vec3 pole = pose.hasElbow ? sidedVector(pose.elbowTo, side) : s.chest.direction({-0.35F, 0.55F * o, -0.8F});
+    const Vec3 pole =
+        pose.hasElbow ? sidedVector(pose.elbowTo, side) : s.chest.direction({-0.35F, 0.55F * o, -0.8F});
     const Vec3 way = wrist - a.upper.from;
     const float d = length(way);
     const float span = body::upperArm + body::forearm;
     if (d > span + 1.2F || d < 9) {
-        throw PoseError(std::string("hand.") + (side == Left ? "left" : "right") + " cannot reach its place: it is "
-                        + std::to_string(static_cast<int>(std::lround(d))) + " cm from the shoulder, the arm spans "
-                        + std::to_string(static_cast<int>(span)) + " cm");
+        throw PoseError(std::string("hand.") + (side == Left ? "left" : "right") +
+                        " cannot reach its place: it is " + std::to_string(static_cast<int>(std::lround(d))) +
+                        " cm from the shoulder, the arm spans " + std::to_string(static_cast<int>(span)) +
+                        " cm");
     }
     const Vec3 axis = unit(way);
     const float use = std::min(d, span * 0.9995F);
-    const float along = (body::upperArm * body::upperArm - body::forearm * body::forearm + use * use) / (2 * use);
+    const float along =
+        (body::upperArm * body::upperArm - body::forearm * body::forearm + use * use) / (2 * use);
     const float off = std::sqrt(std::max(0.0F, body::upperArm * body::upperArm - along * along));
     const Vec3 elbowSide = perpendicular(pole, axis, s.chest.ay);
     a.upper.to = a.upper.from + axis * along + elbowSide * off;
@@ -146,11 +153,12 @@ void Solver::place(const ArmPose& pose, Skeleton& s, int side) const {
         } else {
             const float drop = a.upper.from.z - (top + 3.8F);
             if (drop > body::upperArm + 1.0F || drop < 5) {
-                throw PoseError(std::string("hand.") + (side == Left ? "left" : "right")
-                                + " cannot lie on its forearm: the shoulder is "
-                                + std::to_string(static_cast<int>(drop)) + " cm over the elbow");
+                throw PoseError(std::string("hand.") + (side == Left ? "left" : "right") +
+                                " cannot lie on its forearm: the shoulder is " +
+                                std::to_string(static_cast<int>(drop)) + " cm over the elbow");
             }
-            const float ahead = std::sqrt(std::max(0.0F, body::upperArm * body::upperArm - drop * drop)) * pose.along;
+            const float ahead =
+                std::sqrt(std::max(0.0F, body::upperArm * body::upperArm - drop * drop)) * pose.along;
             const Vec3 elbow = a.upper.from + f.ax * ahead - up * drop;
             const Vec3 wrist = elbow + fingers * body::forearm - up * 1.0F;
             ArmPose bent = pose;
@@ -185,7 +193,9 @@ void Solver::place(const ArmPose& pose, Skeleton& s, int side) const {
         gripped = true;
     } else {
         const Vec3 at{pose.at.x, pose.at.y * o, pose.at.z};
-        target = pose.kind == ArmPose::Chest ? s.chest.point(at) : pose.kind == ArmPose::Pelvis ? s.pelvis.point(at) : f.point(at);
+        target = pose.kind == ArmPose::Chest    ? s.chest.point(at)
+                 : pose.kind == ArmPose::Pelvis ? s.pelvis.point(at)
+                                                : f.point(at);
     }
     if (pose.under) {
         thumb = -thumb;
@@ -199,7 +209,8 @@ void Solver::place(const ArmPose& pose, Skeleton& s, int side) const {
             Vec3 palm = pose.hasPalm ? sidedVector(pose.palmTo, side) : s.chest.direction({0, -o, -0.3F});
             a.hand = handFlat(fingers, palm, side);
         }
-        const Vec3 wrist = target - a.hand.direction({body::grip, 0, gripped || a.shape == ArmPose::Grip ? -2.6F : -1.5F});
+        const Vec3 wrist =
+            target - a.hand.direction({body::grip, 0, gripped || a.shape == ArmPose::Grip ? -2.6F : -1.5F});
         reach(pose, s, side, wrist);
         a.hand.origin = a.lower.to;
         fingers = unit(a.lower.to - a.lower.from);
@@ -208,8 +219,8 @@ void Solver::place(const ArmPose& pose, Skeleton& s, int side) const {
 
 bool Solver::alike(const BodyPose& first, const BodyPose& second) {
     for (std::size_t i = 0; i < 2; ++i) {
-        if (first.leg[i].kind != second.leg[i].kind || first.leg[i].surface != second.leg[i].surface
-            || first.arm[i].kind != second.arm[i].kind || first.arm[i].surface != second.arm[i].surface) {
+        if (first.leg[i].kind != second.leg[i].kind || first.leg[i].surface != second.leg[i].surface ||
+            first.arm[i].kind != second.arm[i].kind || first.arm[i].surface != second.arm[i].surface) {
             return false;
         }
     }
@@ -235,8 +246,8 @@ BodyPose Solver::between(const BodyPose& first, const BodyPose& second, float t)
         const LegPose& l0 = first.leg[i];
         if (l.kind == l0.kind) {
             l.at = mix(l0.at, l.at, t);
-            for (auto field : {&LegPose::turn, &LegPose::heel, &LegPose::flex, &LegPose::spread, &LegPose::roll,
-                               &LegPose::knee, &LegPose::ankle}) {
+            for (auto field : {&LegPose::turn, &LegPose::heel, &LegPose::flex, &LegPose::spread,
+                               &LegPose::roll, &LegPose::knee, &LegPose::ankle}) {
                 blend(l.*field, l0.*field);
             }
         }
@@ -244,8 +255,8 @@ BodyPose Solver::between(const BodyPose& first, const BodyPose& second, float t)
         const ArmPose& a0 = first.arm[i];
         if (a.kind == a0.kind) {
             a.at = mix(a0.at, a.at, t);
-            for (auto field : {&ArmPose::turn, &ArmPose::along, &ArmPose::elev, &ArmPose::plane, &ArmPose::elbow,
-                               &ArmPose::twist}) {
+            for (auto field : {&ArmPose::turn, &ArmPose::along, &ArmPose::elev, &ArmPose::plane,
+                               &ArmPose::elbow, &ArmPose::twist}) {
                 blend(a.*field, a0.*field);
             }
         }

@@ -22,30 +22,51 @@ Vec3 lightOf(const Camera& c) {
 } // namespace
 
 Tint::Tint(const Skeleton& skeleton, const Camera& camera, const Shadow& plateShadow, float plateTop)
-    : s_(skeleton), camera_(camera), plateShadow_(plateShadow), plateTop_(plateTop), light_(lightOf(camera)) {}
+    : s_(skeleton), camera_(camera), plateShadow_(plateShadow), plateTop_(plateTop), light_(lightOf(camera)) {
+}
 
 Tint::Look Tint::look(Material material) {
     switch (material) {
-    case Material::Skin: return {rgb(247, 217, 193), rgb(206, 158, 130), 0.06F};
-    case Material::Shirt: return {rgb(226, 234, 243), rgb(158, 174, 196), 0};
-    case Material::Shorts: return {rgb(92, 118, 162), rgb(50, 66, 104), 0};
-    case Material::Shoe: return {rgb(84, 98, 122), rgb(44, 52, 70), 0.1F};
-    case Material::Sole: return {rgb(245, 247, 250), rgb(184, 192, 204), 0};
-    case Material::Hair: return {rgb(112, 82, 62), rgb(60, 42, 32), 0.14F};
-    case Material::Feature: return {rgb(74, 54, 48), rgb(60, 44, 40), 0};
-    case Material::Plate: return {rgb(122, 134, 150), rgb(74, 84, 100), 0.08F};
-    case Material::PlateTop: return {rgb(176, 186, 199), rgb(112, 124, 140), 0};
-    case Material::Column: return {rgb(218, 224, 231), rgb(152, 163, 177), 0.15F};
-    case Material::Steel: return {rgb(200, 208, 218), rgb(120, 132, 148), 0.35F};
-    case Material::Rubber: return {rgb(92, 100, 112), rgb(48, 54, 64), 0.12F};
-    case Material::Screen: return {rgb(126, 196, 214), rgb(74, 140, 166), 0.2F};
-    case Material::Accent: return {rgb(64, 160, 176), rgb(34, 108, 126), 0.1F};
-    case Material::Mat: return {rgb(134, 190, 176), rgb(84, 142, 130), 0};
-    case Material::Strap: return {rgb(72, 92, 132), rgb(40, 52, 84), 0};
-    case Material::Wood: return {rgb(222, 186, 132), rgb(160, 118, 70), 0.15F};
-    case Material::Ball: return {rgb(120, 176, 218), rgb(58, 108, 158), 0.3F};
-    case Material::Cushion: return {rgb(112, 124, 142), rgb(66, 76, 92), 0.08F};
-    case Material::Ground: break;
+    case Material::Skin:
+        return {rgb(247, 217, 193), rgb(206, 158, 130), 0.06F};
+    case Material::Shirt:
+        return {rgb(226, 234, 243), rgb(158, 174, 196), 0};
+    case Material::Shorts:
+        return {rgb(92, 118, 162), rgb(50, 66, 104), 0};
+    case Material::Shoe:
+        return {rgb(84, 98, 122), rgb(44, 52, 70), 0.1F};
+    case Material::Sole:
+        return {rgb(245, 247, 250), rgb(184, 192, 204), 0};
+    case Material::Hair:
+        return {rgb(112, 82, 62), rgb(60, 42, 32), 0.14F};
+    case Material::Feature:
+        return {rgb(74, 54, 48), rgb(60, 44, 40), 0};
+    case Material::Plate:
+        return {rgb(122, 134, 150), rgb(74, 84, 100), 0.08F};
+    case Material::PlateTop:
+        return {rgb(176, 186, 199), rgb(112, 124, 140), 0};
+    case Material::Column:
+        return {rgb(218, 224, 231), rgb(152, 163, 177), 0.15F};
+    case Material::Steel:
+        return {rgb(200, 208, 218), rgb(120, 132, 148), 0.35F};
+    case Material::Rubber:
+        return {rgb(92, 100, 112), rgb(48, 54, 64), 0.12F};
+    case Material::Screen:
+        return {rgb(126, 196, 214), rgb(74, 140, 166), 0.2F};
+    case Material::Accent:
+        return {rgb(64, 160, 176), rgb(34, 108, 126), 0.1F};
+    case Material::Mat:
+        return {rgb(134, 190, 176), rgb(84, 142, 130), 0};
+    case Material::Strap:
+        return {rgb(72, 92, 132), rgb(40, 52, 84), 0};
+    case Material::Wood:
+        return {rgb(222, 186, 132), rgb(160, 118, 70), 0.15F};
+    case Material::Ball:
+        return {rgb(120, 176, 218), rgb(58, 108, 158), 0.3F};
+    case Material::Cushion:
+        return {rgb(112, 124, 142), rgb(66, 76, 92), 0.08F};
+    case Material::Ground:
+        break;
     }
     return {rgb(255, 255, 255), rgb(230, 230, 230), 0};
 }
@@ -152,7 +173,8 @@ void Tint::colour(const Hit& hit, Sample& sample) const {
         if (std::max(std::fabs(hit.point.x), std::fabs(hit.point.y)) < 34.5F) {
             l.base = l.base * (std::hypot(gx, gy) < 1.5F ? 0.80F : 0.93F);
         }
-        open = std::min(open + 0.15F, 1.0F) * (1 - 0.55F * plateShadow_.at(hit.point - Vec3{light_.x, light_.y, 0} * -3.0F));
+        open = std::min(open + 0.15F, 1.0F) *
+               (1 - 0.55F * plateShadow_.at(hit.point - Vec3{light_.x, light_.y, 0} * -3.0F));
     }
     if (hit.tint > 0) {
         const float t = hit.tint * 0.88F;
@@ -173,9 +195,11 @@ void Tint::colour(const Hit& hit, Sample& sample) const {
     const float rim = 1 + dot(hit.normal, camera_.into);
     c = mix(c, mix(l.base, {1, 1, 1}, 0.3F), 0.28F * rim * rim * rim * smoothstep(-0.2F, 0.6F, -lambert));
     sample.colour = packed(c);
-    sample.key = static_cast<std::uint16_t>(static_cast<int>(material) + 32 * (static_cast<int>(shape.group) + 1));
+    sample.key =
+        static_cast<std::uint16_t>(static_cast<int>(material) + 32 * (static_cast<int>(shape.group) + 1));
     if (shape.group == Group::HandLeft || shape.group == Group::HandRight) { // no line across the wrist
-        sample.key = static_cast<std::uint16_t>(static_cast<int>(material) + 32 * (static_cast<int>(shape.group) - 1));
+        sample.key =
+            static_cast<std::uint16_t>(static_cast<int>(material) + 32 * (static_cast<int>(shape.group) - 1));
     }
     if (shape.group == Group::Torso && (material == Material::Shirt || material == Material::Shorts)) {
         sample.key = static_cast<std::uint16_t>(static_cast<int>(material));

@@ -5,7 +5,8 @@
 
 namespace figures {
 
-/// Colours of the series: clothes, skin, machine, the warm tint of trained muscles, one light from the upper left.
+/// Colours of the series: clothes, skin, machine, the warm tint of trained muscles, one light from the upper
+/// left.
 class Tint : public Surface {
 public:
     Tint(const Skeleton& skeleton, const Camera& camera, const Shadow& plateShadow, float plateTop);

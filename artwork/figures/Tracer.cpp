@@ -24,8 +24,9 @@ bool calm(const Sample& a, const Sample& b, float predicted) {
     if (qAlpha(a.colour) == 0) {
         return true;
     }
-    const int change = std::abs(qRed(a.colour) - qRed(b.colour)) + std::abs(qGreen(a.colour) - qGreen(b.colour))
-                       + std::abs(qBlue(a.colour) - qBlue(b.colour));
+    const int change = std::abs(qRed(a.colour) - qRed(b.colour)) +
+                       std::abs(qGreen(a.colour) - qGreen(b.colour)) +
+                       std::abs(qBlue(a.colour) - qBlue(b.colour));
     return change < 40 && std::fabs(b.depth - predicted) < 0.3F;
 }
 
@@ -80,8 +81,8 @@ Tracer::Tile Tracer::tileAt(const Camera& camera, const std::vector<Flat>& flat,
     return tile;
 }
 
-bool Tracer::ray(const Camera& camera, const Surface& surface, const Tile& tile, float x, float y, Sample& sample,
-                 Vec3& normal) const {
+bool Tracer::ray(const Camera& camera, const Surface& surface, const Tile& tile, float x, float y,
+                 Sample& sample, Vec3& normal) const {
     const Vec3 from = camera.start(x, y);
     float t = tile.nearest;
     float d = 0;
@@ -132,8 +133,8 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
                     if (ray(camera, surface, tile, static_cast<float>(x) + 0.5F, static_cast<float>(y) + 0.5F,
                             coarse.at(x, y), n)) {
                         const float facing = std::min(dot(n, camera.into), -0.05F) * camera.scale;
-                        slopes[static_cast<std::size_t>(y * camera.width + x)] = {-dot(n, camera.right) / facing,
-                                                                                  dot(n, camera.up) / facing};
+                        slopes[static_cast<std::size_t>(y * camera.width + x)] = {
+                            -dot(n, camera.right) / facing, dot(n, camera.up) / facing};
                     }
                 }
             }
@@ -153,7 +154,8 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
                     const int nx = std::clamp(x + dx, 0, camera.width - 1);
                     const int ny = std::clamp(y + dy, 0, camera.height - 1);
                     quiet = calm(s, coarse.at(nx, ny),
-                                 s.depth + slope.x * static_cast<float>(nx - x) + slope.y * static_cast<float>(ny - y));
+                                 s.depth + slope.x * static_cast<float>(nx - x) +
+                                     slope.y * static_cast<float>(ny - y));
                 }
             }
             if (quiet && qAlpha(s.colour) == 0) {
@@ -170,7 +172,8 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
                         out.depth += slope.x * (ox - 0.5F) + slope.y * (oy - 0.5F);
                     } else if (tile.nearest < tile.farthest) {
                         Vec3 n;
-                        ray(camera, surface, tile, static_cast<float>(x) + ox, static_cast<float>(y) + oy, out, n);
+                        ray(camera, surface, tile, static_cast<float>(x) + ox, static_cast<float>(y) + oy,
+                            out, n);
                     }
                 }
             }

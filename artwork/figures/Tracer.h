@@ -19,8 +19,8 @@ struct Hit {
 
 /// One pixel of a traced picture.
 struct Sample {
-    float depth = 1e9F; ///< far away where the ray met nothing
-    QRgb colour = 0;    ///< transparent where the ray met nothing
+    float depth = 1e9F;    ///< far away where the ray met nothing
+    QRgb colour = 0;       ///< transparent where the ray met nothing
     std::uint16_t key = 0; ///< surfaces with different keys are parted by a line
 };
 
@@ -47,15 +47,15 @@ public:
     virtual void colour(const Hit& hit, Sample& sample) const = 0;
 };
 
-/// Follows one ray for each pixel through the shapes (sphere tracing), tile by tile, so that a ray asks only the
-/// shapes near its tile.
+/// Follows one ray for each pixel through the shapes (sphere tracing), tile by tile, so that a ray asks only
+/// the shapes near its tile.
 class Tracer {
 public:
     Tracer(const Shapes& shapes, const Joints& joints, std::uint32_t trained)
         : shapes_(shapes), joints_(joints), trained_(trained) {}
 
-    /// Traces every pixel of `camera`, then `fine` x `fine` rays where a pixel and its neighbours differ; calm pixels
-    /// are filled in. The map has `fine` times the camera's pixels.
+    /// Traces every pixel of `camera`, then `fine` x `fine` rays where a pixel and its neighbours differ;
+    /// calm pixels are filled in. The map has `fine` times the camera's pixels.
     SampleMap trace(const Camera& camera, const Surface& surface, int fine) const;
 
 private:

@@ -36,7 +36,8 @@ inline Vec3 unit(const Vec3& a) {
 constexpr Vec3 mix(const Vec3& a, const Vec3& b, float t) {
     return a + (b - a) * t;
 }
-/// The part of `v` at right angles to the unit vector `axis`, made a unit; `spare` decides when nothing is left.
+/// The part of `v` at right angles to the unit vector `axis`, made a unit; `spare` decides when nothing is
+/// left.
 inline Vec3 perpendicular(const Vec3& v, const Vec3& axis, const Vec3& spare) {
     Vec3 p = v - axis * dot(v, axis);
     if (length(p) < 1e-3F) {

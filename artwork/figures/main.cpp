@@ -14,10 +14,11 @@ using namespace figures;
 using Path = std::filesystem::path;
 
 int usage() {
-    std::fputs("usage: quiverdeck_figures draw CATALOGUE POSES CODE OUT [DEPFILE]   draw a figure of the list\n"
-               "       quiverdeck_figures warn POSE WIDTHxHEIGHT OUT [DEPFILE]      draw a posture not to take\n"
-               "       quiverdeck_figures sheets CATALOGUE PICTURES FOLDER          lay all pictures out\n",
-               stderr);
+    std::fputs(
+        "usage: quiverdeck_figures draw CATALOGUE POSES CODE OUT [DEPFILE]   draw a figure of the list\n"
+        "       quiverdeck_figures warn POSE WIDTHxHEIGHT OUT [DEPFILE]      draw a posture not to take\n"
+        "       quiverdeck_figures sheets CATALOGUE PICTURES FOLDER          lay all pictures out\n",
+        stderr);
     return 2;
 }
 
@@ -35,7 +36,8 @@ void depfile(const Path& file, const Path& target, const std::vector<Path>& sour
 }
 
 /// Says which pose an error belongs to.
-void save(const Path& poseFile, std::uint32_t trained, int wide, int high, const Path& out, const std::string& depends) {
+void save(const Path& poseFile, std::uint32_t trained, int wide, int high, const Path& out,
+          const std::string& depends) {
     std::vector<Path> sources;
     const Pose pose = PoseFile::read(poseFile, sources);
     try {
