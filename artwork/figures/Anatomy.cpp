@@ -60,18 +60,18 @@ private:
                 c.point({-0.4F, 5.6F * o, 16}), 9.6F);
             add(g, Part::Chest, Material::Shirt, c.point({-0.8F, 6.5F * o, 18}), 7.8F,
                 c.point({-1.2F, 8.5F * o, 21.5F}), 5.6F);
-            add(g, Part::Pelvis, Material::Shirt, p.point({5.6F, 2.5F * o, 6.5F}), 3.9F,
-                w.point({5.8F, 2.5F * o, 5}), 3.9F, "ADD");
-            add(g, Part::Chest, Material::Shirt, w.point({5.8F, 2.5F * o, 5}), 3.9F,
-                c.point({6.0F, 2.5F * o, 6}), 4.0F, "ADD");
+            add(g, Part::Pelvis, Material::Shirt, p.point({5.3F, 3.4F * o, 6.5F}), 3.9F,
+                w.point({5.5F, 3.4F * o, 5}), 3.9F, "ADD");
+            add(g, Part::Chest, Material::Shirt, w.point({5.5F, 3.4F * o, 5}), 3.9F,
+                c.point({5.8F, 3.4F * o, 6}), 4.0F, "ADD");
             add(g, Part::Pelvis, Material::Shirt, p.point({0.8F, 8.8F * o, 9.5F}), 4.6F,
                 w.point({0.8F, 8.2F * o, 5}), 4.8F, "FI1");
             add(g, Part::Chest, Material::Shirt, w.point({0.8F, 8.2F * o, 5}), 4.8F,
                 c.point({1.0F, 9.2F * o, 4}), 4.8F, "FI1");
-            add(g, Part::Pelvis, Material::Shirt, p.point({-6.0F, 3.0F * o, 8}), 3.8F,
-                w.point({-5.9F, 3.0F * o, 4}), 3.6F, "ERE");
-            add(g, Part::Chest, Material::Shirt, w.point({-5.9F, 3.0F * o, 4}), 3.6F,
-                c.point({-6.8F, 3.2F * o, 9}), 3.6F, "ERE");
+            add(g, Part::Pelvis, Material::Shirt, p.point({-5.6F, 3.8F * o, 8}), 3.8F,
+                w.point({-5.5F, 3.8F * o, 4}), 3.6F, "ERE");
+            add(g, Part::Chest, Material::Shirt, w.point({-5.5F, 3.8F * o, 4}), 3.6F,
+                c.point({-6.5F, 3.8F * o, 9}), 3.6F, "ERE");
             add(g, Part::Chest, Material::Shirt, w.point({-4.2F, 6.8F * o, 4}), 4.4F,
                 c.point({-4.8F, 8.8F * o, 8}), 5.2F, "DOR");
             add(g, Part::Chest, Material::Shirt, c.point({-4.8F, 8.8F * o, 8}), 5.2F,

@@ -17,7 +17,7 @@ void ContactSheet::make(const std::vector<Row>& rows, const std::filesystem::pat
     constexpr int columns = 7;
     constexpr int lines = 6;
     constexpr int cellWide = 216;
-    constexpr int cellHigh = 234;
+    constexpr int cellHigh = 246;
     constexpr int perSheet = columns * lines;
     for (std::size_t first = 0, sheet = 1; first < rows.size(); first += perSheet, ++sheet) {
         QImage image(columns * cellWide, lines * cellHigh, QImage::Format_RGB32);
@@ -49,7 +49,8 @@ void ContactSheet::make(const std::vector<Row>& rows, const std::filesystem::pat
                                  .arg(QString::fromStdString(row.code))
                                  .arg(row.number)
                                  .arg(muscles));
-            painter.drawText(QRect(x + 2, y + 215, cellWide - 4, 16), Qt::AlignCenter,
+            painter.drawText(QRect(x + 2, y + 215, cellWide - 4, 28),
+                             Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
                              QString::fromStdString(row.name));
         }
         painter.end();
