@@ -68,10 +68,10 @@ private:
                 w.point({0.8F, 8.2F * o, 5}), 4.8F, "FI1");
             add(g, Part::Chest, Material::Shirt, w.point({0.8F, 8.2F * o, 5}), 4.8F,
                 c.point({1.0F, 9.2F * o, 4}), 4.8F, "FI1");
-            add(g, Part::Pelvis, Material::Shirt, p.point({-5.6F, 3.8F * o, 8}), 3.8F,
-                w.point({-5.5F, 3.8F * o, 4}), 3.6F, "ERE");
-            add(g, Part::Chest, Material::Shirt, w.point({-5.5F, 3.8F * o, 4}), 3.6F,
-                c.point({-6.5F, 3.8F * o, 9}), 3.6F, "ERE");
+            add(g, Part::Pelvis, Material::Shirt, p.point({-6.3F, 3.4F * o, 8}), 3.8F,
+                w.point({-6.3F, 3.4F * o, 4}), 3.6F, "ERE");
+            add(g, Part::Chest, Material::Shirt, w.point({-6.3F, 3.4F * o, 4}), 3.6F,
+                c.point({-7.2F, 3.5F * o, 9}), 3.6F, "ERE");
             add(g, Part::Chest, Material::Shirt, w.point({-4.2F, 6.8F * o, 4}), 4.4F,
                 c.point({-4.8F, 8.8F * o, 8}), 5.2F, "DOR");
             add(g, Part::Chest, Material::Shirt, c.point({-4.8F, 8.8F * o, 8}), 5.2F,
