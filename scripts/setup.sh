@@ -3,7 +3,7 @@
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-dev-tools qt6-translations-l10n
     qt6-svg-dev libsqlite3-dev libasound2-dev libxcb-randr0-dev fonts-dejavu-core fonts-liberation breeze-icon-theme)
-screen_packages=(xvfb openbox xdotool x11-utils imagemagick poppler-utils)
+screen_packages=(xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick poppler-utils)
 check_packages=(clang-format sqlite3 xserver-xephyr)
 
 quiverdeck_setup() {

@@ -40,6 +40,12 @@ QString textOf(const QWidget* widget) {
     return text.isValid() ? text.toString() : widget->windowTitle();
 }
 
+// The keys go to the control or to a part of it.
+bool hasFocus(const QWidget* widget) {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus && (focus == widget || widget->isAncestorOf(focus));
+}
+
 QJsonObject place(const QWidget* widget, const QRect& part) {
     const QPoint centre = widget->mapToGlobal(part.center());
     const qreal ratio = widget->devicePixelRatioF();
@@ -53,6 +59,7 @@ QJsonObject place(const QWidget* widget, const QRect& part) {
             {"left", widget->mapToGlobal(part.topLeft()).x()},
             {"top", widget->mapToGlobal(part.topLeft()).y()},
             {"text", textOf(widget)},
+            {"focus", hasFocus(widget)},
             {"window", widget->window()->objectName()}};
 }
 
@@ -219,7 +226,7 @@ QJsonObject Probe::answer(const QString& question) {
 QJsonObject Probe::find(const QString& target) {
     const QString name = target.section('#', 0, 0);
     QWidget* widget = widgetNamed(name);
-    if (!widget)
+    if (!widget || qobject_cast<QMenu*>(widget)) // a menu is pressed where its title stands
         return findAction(name);
     if (!target.contains('#'))
         return place(widget, widget->rect());

@@ -146,9 +146,10 @@ void Tour::key(const QString& keys) {
 
 void Tour::fill(const QString& target, const QString& text) {
     click(target);
+    until(target + " to have the focus", [&] { return see(target)["focus"].toBool(); });
     key("ctrl+a");
     type(text);
-    until(target + " to read " + text, [&] { return this->text(target).contains(text.right(6)); });
+    until(target + " to read " + text, [&] { return this->text(target).endsWith(text.right(4)); });
 }
 
 void Tour::box(const QString& text, const QString& button, const QString& picture) {
