@@ -15,6 +15,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <numeric>
+#include <utility>
 
 namespace toolkit {
 
@@ -108,12 +109,17 @@ void Form::setTop(double twips) {
 void Form::setOuterSize(double width, double height) {
     sized_ = true;
     inner_ = QSize();
-    resizeOuter({toPixels(width), toPixels(height)});
+    const QSize pixels(toPixels(width), toPixels(height));
+    if (!frame_ && !isVisible()) {
+        outerWanted_ = pixels;
+    }
+    resizeOuter(pixels);
 }
 
 void Form::setInnerSize(double width, double height) {
     sized_ = true;
     inner_ = QSize(toPixels(width), toPixels(height));
+    outerWanted_ = QSize();
     resizeInner();
 }
 
@@ -280,6 +286,9 @@ void Form::setVisible(bool visible) {
         prepareWindow();
         QWidget::setVisible(true);
         waitForWindow();
+        if (outerWanted_.isValid()) {
+            resizeOuter(std::exchange(outerWanted_, QSize())); // now that the frame is known
+        }
     }
     onResize();
     activate();
@@ -312,7 +321,7 @@ void Form::prepareWindow() {
 }
 
 void Form::waitForWindow() {
-    if (!maximised_ || QGuiApplication::platformName() != QLatin1String("xcb")) {
+    if ((!maximised_ && !outerWanted_.isValid()) || QGuiApplication::platformName() != QLatin1String("xcb")) {
         return;
     }
     QElapsedTimer patience;

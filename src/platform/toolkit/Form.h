@@ -140,6 +140,7 @@ private:
     bool maximised_ = false;
     bool resizable_ = false;
     bool borderless_ = false;
+    QSize outerWanted_;   ///< pixels; an outer size asked for before the window had its frame
     bool placed_ = false; ///< somebody chose the position
     bool sized_ = false;  ///< client() was given its size, which bars added later must not take
 };
