@@ -10,6 +10,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QTimer>
 #include <algorithm>
 
 namespace toolkit {
@@ -38,18 +39,21 @@ bool QtPrinterDialog::choose(QPrinter& printer, PrintRange& range) {
     if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"))) {
         file->setText(proposed);
     }
-    // What the sheets' own order rules out: a free list of pages, odd and even ones, the order of copies.
-    for (const char* unused :
-         {"pagesRadioButton", "pagesLineEdit", "pageSetLabel", "pageSetCombo", "collate", "reverse"}) {
-        if (auto* widget = dialog.findChild<QWidget*>(QLatin1String(unused))) {
-            widget->hide();
-        }
-    }
     for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
         if (button->text().endsWith(QLatin1String(">>"))) {
             button->click(); // sheets and copies show at once
         }
     }
+    // What the sheets' own order rules out: a free list of pages, odd and even ones, the order of copies. The
+    // dialog shows them anew as it opens.
+    QTimer::singleShot(0, &dialog, [&dialog] {
+        for (const char* unused :
+             {"pagesRadioButton", "pagesLineEdit", "pageSetLabel", "pageSetCombo", "collate", "reverse"}) {
+            if (auto* widget = dialog.findChild<QWidget*>(QLatin1String(unused))) {
+                widget->hide();
+            }
+        }
+    });
     if (dialog.exec() != QDialog::Accepted) {
         return false;
     }

@@ -5,6 +5,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 namespace toolkit {
 
@@ -51,9 +52,29 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
 
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    if (betweenControls(event->reason())) {
+    if (event->reason() == Qt::MouseFocusReason) {
+        focusPress_ = true; // the press comes next and would undo a selection made now
+    } else if (betweenControls(event->reason())) {
         Q_EMIT gotFocus();
     }
+}
+
+void TextBox::mousePressEvent(QMouseEvent* event) {
+    QLineEdit::mousePressEvent(event);
+    if (focusPress_) {
+        Q_EMIT gotFocus();
+    }
+}
+
+void TextBox::mouseMoveEvent(QMouseEvent* event) {
+    if (!focusPress_) { // a trembling hand does not select
+        QLineEdit::mouseMoveEvent(event);
+    }
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    focusPress_ = false;
 }
 
 void TextBox::focusOutEvent(QFocusEvent* event) {

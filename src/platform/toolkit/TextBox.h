@@ -28,7 +28,7 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The focus came from another control (not back from a popup, a box or another window).
+    /// The focus came from another control; behind the mouse press that brought it, if one did (not back from a popup, a box or another window).
     void gotFocus();
     void lostFocus();
     /// Enter was pressed.
@@ -36,12 +36,16 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
     ApostropheGuard* guard_ = nullptr;
     std::function<bool(QChar)> filter_;
+    bool focusPress_ = false; ///< the press under way brought the focus
 };
 
 } // namespace toolkit
