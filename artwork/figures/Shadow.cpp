@@ -22,7 +22,8 @@ Shadow::Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, 
             const Vec3 p{x0_ + static_cast<float>(ix) * step, y0_ + static_cast<float>(iy) * step, z + 0.5F};
             const float d = std::max(0.0F, Field::distance(list, joints, p));
             const float f = 1 - std::min(d / soft, 1.0F);
-            dark_[static_cast<std::size_t>(iy * nx_ + ix)] = f * f;
+            dark_[static_cast<std::size_t>(iy) * static_cast<std::size_t>(nx_) +
+                  static_cast<std::size_t>(ix)] = f * f;
         }
     }
 }
@@ -31,7 +32,7 @@ float Shadow::value(int ix, int iy) const {
     if (ix < 0 || iy < 0 || ix >= nx_ || iy >= ny_) {
         return 0;
     }
-    return dark_[static_cast<std::size_t>(iy * nx_ + ix)];
+    return dark_[static_cast<std::size_t>(iy) * static_cast<std::size_t>(nx_) + static_cast<std::size_t>(ix)];
 }
 
 float Shadow::at(const Vec3& p) const {

@@ -235,13 +235,14 @@ Skeleton Solver::solve(const BodyPose& body) const {
         for (int round = 0; round < 3; ++round) {
             left = gap(anatomy(s), room_, part);
             if (left > 900) {
-                throw PoseError("\"" + part + "\" has nothing to rest on");
+                throw PoseError(std::string("part ").append(part).append(" has nothing to rest on"));
             }
             b.pelvis.z -= left + 0.6F; // flesh yields a little
             s = once(b);
         }
         if (std::fabs(gap(anatomy(s), room_, part)) > 2.0F) {
-            throw PoseError("\"" + part + "\" does not come to rest on " + surface);
+            throw PoseError(
+                std::string("part ").append(part).append(" does not come to rest on ").append(surface));
         }
     }
     return s;

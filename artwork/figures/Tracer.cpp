@@ -16,6 +16,10 @@ float toSegment(float px, float py, float ax, float ay, float bx, float by) {
     return std::hypot(px - ax - dx * t, py - ay - dy * t);
 }
 
+std::size_t at(int row, int width, int column) {
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(width) + static_cast<std::size_t>(column);
+}
+
 /// Whether the pixel continues its neighbour: same surface, colour and plane.
 bool calm(const Sample& a, const Sample& b, float predicted) {
     if (qAlpha(a.colour) != qAlpha(b.colour) || a.key != b.key) {
@@ -133,8 +137,8 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
                     if (ray(camera, surface, tile, static_cast<float>(x) + 0.5F, static_cast<float>(y) + 0.5F,
                             coarse.at(x, y), n)) {
                         const float facing = std::min(dot(n, camera.into), -0.05F) * camera.scale;
-                        slopes[static_cast<std::size_t>(y * camera.width + x)] = {
-                            -dot(n, camera.right) / facing, dot(n, camera.up) / facing};
+                        slopes[at(y, camera.width, x)] = {-dot(n, camera.right) / facing,
+                                                          dot(n, camera.up) / facing};
                     }
                 }
             }
@@ -147,7 +151,7 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
     for (int y = 0; y < camera.height; ++y) {
         for (int x = 0; x < camera.width; ++x) {
             const Sample& s = coarse.at(x, y);
-            const Slope slope = slopes[static_cast<std::size_t>(y * camera.width + x)];
+            const Slope slope = slopes[at(y, camera.width, x)];
             bool quiet = true;
             for (int dy = -1; dy <= 1 && quiet; ++dy) {
                 for (int dx = -1; dx <= 1 && quiet; ++dx) {
@@ -161,7 +165,7 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
             if (quiet && qAlpha(s.colour) == 0) {
                 continue;
             }
-            const Tile& tile = tiles[static_cast<std::size_t>((y / tileSize) * across + x / tileSize)];
+            const Tile& tile = tiles[at(y / tileSize, across, x / tileSize)];
             for (int sy = 0; sy < fine; ++sy) {
                 for (int sx = 0; sx < fine; ++sx) {
                     Sample& out = map.at(x * fine + sx, y * fine + sy);

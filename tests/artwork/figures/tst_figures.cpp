@@ -170,7 +170,7 @@ void FiguresTest::picturesAreSoundAndDistinct() {
     std::vector<std::pair<QString, QImage>> small;
     for (const auto& info :
          figureFolder().entryInfoList({QStringLiteral("*.JPG")}, QDir::Files, QDir::Name)) {
-        QVERIFY2(info.size() < 80 * 1024, qPrintable(info.fileName()));
+        QVERIFY2(info.size() <= Jpeg::heaviest, qPrintable(info.fileName()));
         const QImage image = QImage(info.filePath()).convertToFormat(QImage::Format_RGB32);
         QCOMPARE(image.size(), QSize(Composer::width, Composer::height));
         QVERIFY(qGray(image.pixel(2, 2)) > 250); // white ground
