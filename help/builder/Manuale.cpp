@@ -99,30 +99,39 @@ PageNumbers measure(const QTextDocument& document) {
     return numbers;
 }
 
-/// No heading stands alone at a page's foot: the first of a run of headings whose text begins on the next
-/// page goes there too.
-void keepHeadings(QTextDocument& document) {
+/// The first of the headings that stand alone at a page's foot, their text beginning on the next page.
+QTextBlock loneHeading(const QTextDocument& document) {
+    const QAbstractTextDocumentLayout& layout = *document.documentLayout();
     const double height = document.pageSize().height();
-    const auto pageOf = [&](const QTextBlock& block) {
-        return static_cast<int>(document.documentLayout()->blockBoundingRect(block).top() / height);
-    };
     QTextBlock run; // where the headings right before this block begin
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() > 0) {
             run = run.isValid() ? run : block;
-            continue;
+        } else if (block.layout()->lineCount() > 0) { // not a table's frame
+            const double firstLine =
+                layout.blockBoundingRect(block).top() + block.layout()->lineAt(0).rect().bottom();
+            if (run.isValid() && static_cast<int>(firstLine / height) !=
+                                     static_cast<int>(layout.blockBoundingRect(run).top() / height)) {
+                return run;
+            }
+            run = QTextBlock();
         }
-        if (block.layout()->lineCount() == 0) { // a table's frame
-            continue;
+    }
+    return {};
+}
+
+/// Lone headings go to the next page, with what follows them.
+void keepHeadings(QTextDocument& document) {
+    const QSizeF page = document.pageSize();
+    for (QTextBlock lone = loneHeading(document); lone.isValid(); lone = loneHeading(document)) {
+        QTextBlockFormat format = lone.blockFormat();
+        if (format.pageBreakPolicy() == QTextFormat::PageBreak_AlwaysBefore) {
+            return; // a picture higher than what is left of the page
         }
-        const double firstLine = document.documentLayout()->blockBoundingRect(block).top() +
-                                 block.layout()->lineAt(0).rect().bottom();
-        if (run.isValid() && static_cast<int>(firstLine / height) != pageOf(run)) {
-            QTextBlockFormat format = run.blockFormat();
-            format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-            QTextCursor(run).setBlockFormat(format);
-        }
-        run = QTextBlock();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        QTextCursor(lone).setBlockFormat(format);
+        document.setPageSize({page.width(), page.height() + 1}); // laid out anew as a whole
+        document.setPageSize(page);
     }
 }
 

@@ -46,6 +46,7 @@ frmPersonalizza::frmPersonalizza()
     tbsOptions.setAccessibleName(caption());
     for (auto& pannello : picOptions) {
         place(*pannello, pannelloVia, 480, 6810, 4410);
+        pannello->setBorder(false);
         pannello->setEnabled(false);
     }
 
@@ -57,7 +58,7 @@ frmPersonalizza::frmPersonalizza()
     responsabile.setAccessibleName(Label4.caption());
     place(Label2, 180, 1140, 1440, 255);
     place(logo, logoLeft, logoTop, latoLogo, latoLogo);
-    logo.setFrameStyle(QFrame::Box | QFrame::Plain);
+    logo.setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     place(noImage, logoLeft + 60, logoTop + 1350, latoLogo - 120, 300);
     noImage.setFont(toolkit::font(u"Arial"_s, 8.25, true));
     noImage.setAlignment(Qt::AlignCenter);

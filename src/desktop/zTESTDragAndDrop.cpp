@@ -14,7 +14,7 @@ zTESTDragAndDrop::zTESTDragAndDrop()
     toolkit::place(twImage, 120, 120, 2700, 3960);
     twImage.setAccessibleName(u"Figure"_s);
     toolkit::place(figura_, 3060, 120, 3000, 3000);
-    figura_.setFrameStyle(QFrame::Box | QFrame::Plain);
+    figura_.setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     figura_.setDropTarget(true);
     toolkit::place(lblTesto, 3060, 3240, 3000, 255);
     connect(&figura_, &toolkit::PictureBox::dropped, this, &zTESTDragAndDrop::riceve);

@@ -28,7 +28,7 @@ void addPreview(QFileDialog& dialog) {
     preview->setFixedWidth(previewSize.width() + 10);
     preview->setAlignment(Qt::AlignCenter);
     preview->setWordWrap(true);
-    preview->setFrameStyle(QFrame::Box | QFrame::Plain);
+    preview->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     grid->addWidget(preview, 1, grid->columnCount());
     QObject::connect(&dialog, &QFileDialog::currentChanged, preview, [preview](const QString& path) {
         preview->clear();
@@ -67,6 +67,7 @@ QString FileDialogs::openFile(const QString& filter, const QString& folder) {
     dialog.setNameFilters(nameFilters(filter));
     if (filter.contains(QLatin1String("*.jpg"), Qt::CaseInsensitive)) {
         addPreview(dialog);
+        dialog.setViewMode(QFileDialog::List); // names whole, beside the picture
         dialog.resize(820, 480);
     }
     const QString start = folder.isEmpty() ? lastFolder_ : folder;
