@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -26,6 +27,18 @@ QFont variante(QFont font, bool grassetto, bool sottolineato) {
     }
     font.setUnderline(sottolineato);
     return font;
+}
+
+/// A frame around the inside of `posto`. It is filled, not drawn as lines: on a screen of a broken scale a
+/// line can fall between the pixels or behind the window's edge.
+void disegnaBordo(const QRect& posto, const QColor& colore, QPainter& painter) {
+    const qreal densita = painter.device()->devicePixelRatioF();
+    const qreal spessore = densita == std::floor(densita) ? 1 : 1.5;
+    const QRectF r(posto);
+    painter.fillRect(QRectF(r.left(), r.top(), r.width(), spessore), colore);
+    painter.fillRect(QRectF(r.left(), r.bottom() - spessore, r.width(), spessore), colore);
+    painter.fillRect(QRectF(r.left(), r.top(), spessore, r.height()), colore);
+    painter.fillRect(QRectF(r.right() - spessore, r.top(), spessore, r.height()), colore);
 }
 
 void disegnaSeparatore(const QRect& posto, const QPalette& colori, QPainter& painter) {
@@ -89,8 +102,7 @@ QSize StileMenu::sizeFromContents(ContentsType type, const QStyleOption* option,
 void StileMenu::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
     if (element == PE_FrameMenu) {
-        painter->setPen(option->palette.color(QPalette::Mid));
-        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+        disegnaBordo(option->rect, option->palette.color(QPalette::Mid), *painter);
         return;
     }
     if (element != PE_PanelMenu) {
@@ -138,9 +150,9 @@ void StileMenu::disegnaVoce(const QStyleOptionMenuItem& voce, QPainter& painter)
     const bool attiva = voce.state & State_Enabled;
     if (attiva && (voce.state & State_Selected)) {
         const QColor scelta = voce.palette.color(QPalette::Normal, QPalette::Highlight);
-        painter.setPen(scelta);
-        painter.setBrush(miscela(scelta, voce.palette.color(QPalette::Base), 0.18));
-        painter.drawRect(voce.rect.adjusted(1, 0, -2, -1));
+        const QRect cornice = voce.rect.adjusted(1, 0, -1, 0);
+        painter.fillRect(cornice, miscela(scelta, voce.palette.color(QPalette::Base), 0.18));
+        disegnaBordo(cornice, scelta, painter);
     }
     disegnaImmagine(voce, {voce.rect.left(), voce.rect.top(), colonna, voce.rect.height()}, painter);
     painter.setPen(voce.palette.color(attiva ? QPalette::Normal : QPalette::Disabled, QPalette::Text));
@@ -163,7 +175,7 @@ void StileMenu::disegnaImmagine(const QStyleOptionMenuItem& voce, const QRect& p
     QRect figura(0, 0, immagine, immagine);
     figura.moveCenter(posto.center());
     if (attiva && (voce.state & State_Selected)) { // raised
-        const QRect rilievo = figura.adjusted(-2, -1, 1, 0);
+        const QRect rilievo = figura.adjusted(-2, 0, 1, -1);
         painter.setPen(voce.palette.color(QPalette::Light));
         painter.drawLine(rilievo.topLeft(), rilievo.topRight());
         painter.drawLine(rilievo.topLeft(), rilievo.bottomLeft());
