@@ -1,5 +1,6 @@
 #include "Road.h"
 
+#include "SideRoads.h"
 #include "Tour.h"
 
 #include <QFile>
@@ -77,12 +78,6 @@ void enterAthlete(Tour& tour) {
     tour.shot("elenco-atleti");
     tour.click("UtentiSelezione/annulla");
     tour.window("Principale");
-}
-
-void chooseAthlete(Tour& tour) {
-    tour.window("UtentiSelezione");
-    tour.fill("Ricerca", "d`am");
-    tour.key("Return");
 }
 
 void fillHeader(Tour& tour) {
@@ -187,7 +182,7 @@ void findItAgain(Tour& tour) {
     tour.check(tour.startAgain() == 0, "a second start ends");
     tour.window("Principale");
     tour.click("Principale/apri");
-    chooseAthlete(tour);
+    chooseTheAthlete(tour);
     tour.window("SchedeSelezione");
     tour.shot("elenco-schede");
     tour.click("SchedeSelezione/seleziona");
@@ -204,6 +199,12 @@ void findItAgain(Tour& tour) {
 
 } // namespace
 
+void chooseTheAthlete(Tour& tour) {
+    tour.window("UtentiSelezione");
+    tour.fill("Ricerca", "d`am");
+    tour.key("Return");
+}
+
 void walkTheRoad(Tour& tour) {
     writeGym(tour.folder());
     tour.start();
@@ -211,11 +212,12 @@ void walkTheRoad(Tour& tour) {
     tour.shot("principale");
     enterAthlete(tour);
     tour.click("Principale/nuova");
-    chooseAthlete(tour);
+    chooseTheAthlete(tour);
     fillHeader(tour);
     fillExercises(tour);
     print(tour);
     findItAgain(tour);
+    walkTheSideRoads(tour);
     tour.click("Principale/esci");
     tour.check(tour.waitForEnd() == 0, "the program ends well");
 }
