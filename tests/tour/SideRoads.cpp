@@ -84,7 +84,7 @@ void readTheGuide(Tour& tour) {
     tour.key("F1");
     tour.window("FinestraGuida");
     tour.shot("guida");
-    tour.key("Escape");
+    tour.key("alt+F4");
     tour.window("Principale");
     tour.click("mnuHelp");
     tour.where("mnuHelpAbout");
