@@ -2,11 +2,9 @@
 
 #include "artwork/icons/Icone.h"
 #include "cards/Esercizio.h"
-#include "figures/figura.h"
-#include "platform/host/ProgramDirectory.h"
+#include "cards/ValoriEsercizio.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/toolkit/Twips.h"
-#include "printing/PictureCache.h"
 
 using toolkit::place;
 
@@ -38,7 +36,7 @@ RigaEsercizio::RigaEsercizio(int indice, int righe, QWidget* pagina, sheet::Pict
       InserisciEsecizio(nome("InserisciEsecizio", indice), QString(), pagina),
       EliminaEsercizio(nome("EliminaEsercizio", indice), QString(), pagina),
       TipoEsercizio(nome("TipoEsercizio", indice), pagina),
-      invito(nome("invito", indice), QStringLiteral("Trascinare qui l'immagine dell'esercizio"), &Frame1),
+      invito(nome("invito", indice), FiguraEsercizio::invito(), &Frame1),
       etiDurata(nome("etiDurata", indice), QStringLiteral("Durata:"), &Frame1),
       etiFrequenza(nome("etiFrequenza", indice), QStringLiteral("Frequenza: "), &Frame1),
       etiAmpiezza(nome("etiAmpiezza", indice), QStringLiteral("Ampiezza: "), &Frame1),
@@ -50,20 +48,16 @@ RigaEsercizio::RigaEsercizio(int indice, int righe, QWidget* pagina, sheet::Pict
       etiPeso(nome("etiPeso", indice), QStringLiteral("Peso:"), &Frame1),
       etiNote(nome("etiNote", indice), QStringLiteral("Note: "), &Frame1),
       etiDescrizione(nome("etiDescrizione", indice), QStringLiteral("Descrizione:"), &FrameLibero),
-      figura(nome("figura", indice), &Frame1), durata(nome("durata", indice), &Frame1),
-      frequenza(nome("frequenza", indice), &Frame1), ampiezza(nome("ampiezza", indice), &Frame1),
-      serie(nome("serie", indice), &Frame1), recuperoMin(nome("recuperoMin", indice), &Frame1),
-      recuperoSec(nome("recuperoSec", indice), &Frame1), modalita(nome("modalita", indice), &Frame1),
-      peso(nome("peso", indice), &Frame1), note(nome("note", indice), &Frame1),
-      noteLibere(nome("note", indice + righe), &FrameLibero), immagini_(immagini) {
-    durata.addItems({QStringLiteral("30s"), QStringLiteral("45s"), QStringLiteral("60s")});
-    frequenza.addItems(
-        {QStringLiteral("30Hz"), QStringLiteral("35Hz"), QStringLiteral("40Hz"), QStringLiteral("50Hz")});
-    ampiezza.addItems({QStringLiteral("L"), QStringLiteral("H")});
-    modalita.addItems({QStringLiteral("Statico a carico naturale"),
-                       QStringLiteral("Statico a carico aggiuntivo"),
-                       QStringLiteral("Dinamico a carico naturale"),
-                       QStringLiteral("Dinamico a carico aggiuntivo"), QStringLiteral("Combinata")});
+      figura(nome("figura", indice), &Frame1, immagini, quadroFigura),
+      durata(nome("durata", indice), &Frame1), frequenza(nome("frequenza", indice), &Frame1),
+      ampiezza(nome("ampiezza", indice), &Frame1), serie(nome("serie", indice), &Frame1),
+      recuperoMin(nome("recuperoMin", indice), &Frame1), recuperoSec(nome("recuperoSec", indice), &Frame1),
+      modalita(nome("modalita", indice), &Frame1), peso(nome("peso", indice), &Frame1),
+      note(nome("note", indice), &Frame1), noteLibere(nome("note", indice + righe), &FrameLibero) {
+    durata.addItems(valoriEsercizio::durate());
+    frequenza.addItems(valoriEsercizio::frequenze());
+    ampiezza.addItems(valoriEsercizio::ampiezze());
+    modalita.addItems(valoriEsercizio::modalita());
     // These texts go into SQL as they stand.
     for (toolkit::Combo* elenco : elenchi()) {
         elenco->guardApostrophes();
@@ -82,15 +76,8 @@ RigaEsercizio::RigaEsercizio(int indice, int righe, QWidget* pagina, sheet::Pict
           &etiSec, &etiModalita, &etiPeso, &etiNote}) {
         etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // level with the field beside it
     }
-    figura.setFrameShape(QFrame::StyledPanel);
     invito.setWordWrap(true);
     invito.setAlignment(Qt::AlignCenter);
-    figura.setDropTarget(true);
-    figura.setDropFilter([](const QString& testo) {
-        bool numero = false;
-        testo.trimmed().toInt(&numero);
-        return numero;
-    });
     FrameLibero.hide();
     disponi(indice);
     nomina(indice);
@@ -186,12 +173,7 @@ void RigaEsercizio::mostra(const Esercizio& e) {
     peso.setText(e.peso);
     note.setText(e.note);
     noteLibere.setText(e.note);
-    if (e.id_fig != 0) {
-        caricaFigura(e.id_fig);
-        figura.Tag = QString::number(e.id_fig);
-    } else {
-        svuotaFigura();
-    }
+    figura.mostra(e);
 }
 
 void RigaEsercizio::scrivi(Esercizio& e) {
@@ -208,10 +190,7 @@ void RigaEsercizio::scrivi(Esercizio& e) {
     if (e.isLibero) {
         e.note = noteLibere.text();
     }
-    if (!figura.Tag.isEmpty()) {
-        e.id_fig = runtime::toInt32(runtime::leadingNumber(figura.Tag));
-        caricaFigura(e.id_fig);
-    }
+    figura.scrivi(e);
 }
 
 void RigaEsercizio::normalizza() {
@@ -226,32 +205,6 @@ void RigaEsercizio::normalizza() {
         }
     }
     if (figura.Tag.isEmpty()) {
-        svuotaFigura();
-    }
-}
-
-void RigaEsercizio::prendiFigura(const QString& testo) {
-    figura.Tag = testo;
-    const qint32 chiave = runtime::toInt32(runtime::leadingNumber(testo));
-    figura.clear();
-    caricaFigura(chiave);
-}
-
-void RigaEsercizio::svuotaFigura() {
-    if (!figura.isEmpty()) {
-        figura.clear();
-    }
-    figura.Tag.clear();
-}
-
-void RigaEsercizio::caricaFigura(qint32 id_fig) {
-    ::figura f;
-    f.carica(id_fig);
-    const sheet::Picture picture = immagini_.load(host::resolve(f.figura_()), quadroFigura);
-    const QSize pixels = (QSizeF(figura.contentsRect().size()) * figura.devicePixelRatioF()).toSize();
-    const QImage image = picture.stretchedTo(pixels);
-    // The row is written at each key: a picture that shows already is not drawn anew.
-    if (image.cacheKey() != figura.image().cacheKey()) {
-        figura.setImage(image);
+        figura.svuota();
     }
 }

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "cards/FiguraEsercizio.h"
 #include "platform/toolkit/Button.h"
 #include "platform/toolkit/Combo.h"
 #include "platform/toolkit/Frame.h"
 #include "platform/toolkit/Label.h"
-#include "platform/toolkit/PictureBox.h"
 #include "platform/toolkit/TabStrip.h"
 #include "platform/toolkit/TextArea.h"
 #include "platform/toolkit/TextBox.h"
@@ -12,9 +12,6 @@
 #include <array>
 
 class Esercizio;
-namespace sheet {
-class PictureCache;
-}
 
 /// The controls of one row of the exercise page, and the two ways between them and an exercise. The names of
 /// the controls carry the row's index, as `durata_0`; the free text is `note_` with the index plus the rows.
@@ -33,8 +30,6 @@ public:
     void normalizza();
     /// Shows the frame of the selected tab.
     void mostraTipo();
-    /// Takes the dropped key of a figure.
-    void prendiFigura(const QString& testo);
 
     bool isLibero() const;
     std::array<toolkit::Combo*, 4> elenchi() { return {&durata, &frequenza, &ampiezza, &modalita}; }
@@ -55,7 +50,7 @@ private:
 
 public:
     // In Frame1
-    toolkit::PictureBox figura;
+    FiguraEsercizio figura;
     toolkit::Combo durata, frequenza, ampiezza;
     toolkit::TextBox serie, recuperoMin, recuperoSec;
     toolkit::Combo modalita;
@@ -67,8 +62,4 @@ public:
 private:
     void disponi(int indice);
     void nomina(int indice);
-    void caricaFigura(qint32 id_fig);
-    void svuotaFigura();
-
-    sheet::PictureCache& immagini_;
 };

@@ -2,6 +2,7 @@
 
 #include "cards/Esercizio.h"
 #include "cards/SchedaApribile.h"
+#include "cards/ValoriEsercizio.h"
 #include "cards/mdiScheda.h"
 #include "core/f_library.h"
 #include "platform/host/Services.h"
@@ -68,7 +69,7 @@ void SchedaCorpo::collega(int i) {
     connect(&r.EliminaEsercizio, &QPushButton::clicked, this, [this, i] { elimina(i); });
     connect(&r.TipoEsercizio, &toolkit::TabStrip::clicked, this, [&r] { r.mostraTipo(); });
     connect(&r.figura, &toolkit::PictureBox::dropped, this,
-            [&r](const QString& testo) { r.prendiFigura(testo); });
+            [&r](const QString& testo) { r.figura.prendi(testo); });
     connect(&r.durata, &toolkit::Combo::clicked, this, &SchedaCorpo::riconta);
     connect(&r.recuperoMin, &toolkit::TextBox::changed, this, &SchedaCorpo::riconta);
     connect(&r.recuperoSec, &toolkit::TextBox::changed, this, &SchedaCorpo::riconta);
@@ -87,10 +88,7 @@ void SchedaCorpo::collega(int i) {
 void SchedaCorpo::controlla(int i) {
     RigaEsercizio& r = riga.at(static_cast<std::size_t>(i));
     for (toolkit::Combo* elenco : r.elenchi()) {
-        validazione.add(elenco, [elenco] {
-            return !nonInLista(*elenco) ||
-                   rifiuta(QStringLiteral("Selezionare un valore tra quelli disponibili!"));
-        });
+        validazione.add(elenco, [elenco] { return valoriEsercizio::inElenco(*elenco); });
     }
     validazione.add(&r.recuperoSec, [&r] {
         return runtime::strictNumber(r.recuperoSec.text()) <= massimoSecondi ||

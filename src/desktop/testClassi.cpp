@@ -1,5 +1,6 @@
 #include "desktop/testClassi.h"
 
+#include "cards/scheda.h"
 #include "core/db.h"
 #include "desktop/zfrmTestDB.h"
 #include "platform/runtime/Error.h"
@@ -24,6 +25,22 @@ QString testClassi::conteggi() {
         righe += tabella + u": "_s + risultato + u'\n';
     }
     return righe;
+}
+
+std::shared_ptr<SchedaApribile> testClassi::schedaDiProva() {
+    auto prova = std::make_shared<scheda>();
+    store::Recordset figure = db::comune().getRs(u"SELECT id_fig FROM figure ORDER BY id_fig"_s);
+    for (int i = 0; i < 2 && !figure.EOF_(); ++i, figure.MoveNext()) {
+        auto riga = std::make_shared<Esercizio>();
+        riga->id_fig = figure(u"id_fig").toInt32();
+        riga->durata = u"30s"_s;
+        riga->frequenza = u"30Hz"_s;
+        riga->ampiezza = u"L"_s;
+        riga->modalita = u"Statico a carico naturale"_s;
+        riga->recuperoMin = 1;
+        prova->esercizi->Add(riga);
+    }
+    return prova;
 }
 
 void testClassi::esegui() {

@@ -14,4 +14,5 @@ private:
     toolkit::Button cmdConteggi;
     toolkit::Button cmdDragAndDrop;
     toolkit::Button cmdTreeViewImage;
+    toolkit::Button cmdSchedaCorpo2;
 };

@@ -49,6 +49,14 @@ private Q_SLOTS:
                 display.unload();
             });
             page.press(u"cmdConteggi"_s);
+            whenModal([](toolkit::Form& compact) {
+                const WindowPage shown(compact);
+                QVERIFY(!shown.find<toolkit::PictureBox>(u"figura"_s).isEmpty());
+                shown.press(u"cmdSucc"_s);
+                QCOMPARE(shown.text(u"durata"_s), u"30s"_s);
+                compact.unload();
+            });
+            page.press(u"cmdSchedaCorpo2"_s);
             form.unload();
         });
         main.press(u"test"_s);
