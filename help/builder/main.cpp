@@ -18,7 +18,7 @@ int main(int argc, char** argv) {
     }
     try {
         const Guida guide = leggiGuida(arguments.at(1));
-        const QString folder = arguments.at(3);
+        const QString& folder = arguments.at(3);
         const QString logo = arguments.at(1) + QStringLiteral("/../artwork/logos/quiverdeck.svg");
         scriviFileGuida(guide, arguments.at(2), folder + QStringLiteral("/HELP.hlp"));
         scriviManuale(guide, arguments.at(2), logo, arguments.at(4), folder + QStringLiteral("/manuale.pdf"));

@@ -40,7 +40,7 @@ QString copiaLogo(const QString& scelto) {
     static_cast<void>(toolkit::PictureFile(scelto, toolkit::PictureFile::Literal).whole());
     // A backslash would part the stored path.
     const QString nome = QFileInfo(scelto).fileName().replace(QLatin1Char('\\'), QLatin1Char('_'));
-    const QString percorso = host::joined(QStringLiteral("\\images\\") + nome);
+    QString percorso = host::joined(QStringLiteral("\\images\\") + nome);
     const QString destinazione = host::resolve(percorso);
     if (QFileInfo(destinazione).canonicalFilePath() != QFileInfo(scelto).canonicalFilePath()) {
         sostituisci(scelto, destinazione);

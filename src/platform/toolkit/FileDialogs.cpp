@@ -75,7 +75,7 @@ QString FileDialogs::openFile(const QString& filter, const QString& folder) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    const QString file = dialog.selectedFiles().constFirst();
+    QString file = dialog.selectedFiles().constFirst();
     lastFolder_ = QFileInfo(file).absolutePath();
     return file;
 }
