@@ -4,7 +4,7 @@
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-dev-tools qt6-translations-l10n
     qt6-svg-dev libsqlite3-dev libasound2-dev libxcb-randr0-dev fonts-dejavu-core fonts-liberation breeze-icon-theme)
 screen_packages=(xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick poppler-utils)
-check_packages=(clang-format sqlite3 xserver-xephyr)
+check_packages=(clang-format sqlite3 xserver-xephyr dpkg-dev file desktop-file-utils appstream)
 
 quiverdeck_setup() {
     local wanted=("${build_packages[@]}")

@@ -5,6 +5,7 @@
 #include "core/Principale.h"
 #include "desktop/Schermo.h"
 #include "desktop/TastoAiuto.h"
+#include "platform/host/InstalledCopy.h"
 #include "platform/host/ProgramDirectory.h"
 #include "platform/host/Services.h"
 #include "platform/host/SingleInstance.h"
@@ -60,12 +61,46 @@ void raiseWindow() {
     }
 }
 
+/// Puts the user's data folder in the place of an installed program's own; false if it cannot be made.
+bool chooseProgramDirectory(bool installed) {
+    if (!installed) {
+        return true;
+    }
+    const QString folder = host::installed::dataFolder();
+    host::setProgramDirectory(folder);
+    return host::installed::makeFolder(folder);
+}
+
+/// Fills or renews the user's data folder; false, behind a box, if there is nothing to start with.
+bool prepareDataFolder() {
+    using host::installed::Outcome;
+    const auto result =
+        host::installed::prepare(QCoreApplication::applicationDirPath(), host::programDirectory());
+    switch (result.outcome) {
+    case Outcome::Ready:
+        break;
+    case Outcome::NotRenewed:
+        host::message(
+            QStringLiteral("Figure e catalogo sono rimasti quelli della versione precedente: i dati "
+                           "non sono cambiati e si può lavorare.\n\n") +
+                result.reason,
+            host::Icon::Exclamation);
+        break;
+    case Outcome::NotFilled:
+        host::message(QStringLiteral("La cartella dei dati non può essere preparata.\n\n") + result.reason,
+                      host::Icon::Critical);
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 int avvia(int& argc, char** argv) {
     toolkit::Application::prepareScale(argc, argv);
     toolkit::Application application(argc, argv);
 
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.Quiverdeck"));
     QApplication::setWindowIcon(artwork::iconaProgramma());
 
     toolkit::MessageBoxes boxes;
@@ -80,6 +115,13 @@ int avvia(int& argc, char** argv) {
     host::setDisplay(&schermo);
     const TastoAiuto tastoAiuto;
 
+    const bool installed = host::installed::isInstalled(QCoreApplication::applicationDirPath());
+    if (!chooseProgramDirectory(installed)) {
+        host::message(QStringLiteral("La cartella dei dati non può essere creata:\n") +
+                          host::programDirectory(),
+                      host::Icon::Critical);
+        return EXIT_FAILURE;
+    }
     const host::SingleInstance instance(host::programDirectory());
     if (!instance.isFirst()) {
         if (!instance.askToRaise()) {
@@ -89,6 +131,10 @@ int avvia(int& argc, char** argv) {
         return EXIT_SUCCESS;
     }
     QObject::connect(&instance, &host::SingleInstance::raiseRequested, &application, raiseWindow);
+    // Only now: a program that runs already has the store open.
+    if (installed && !prepareDataFolder()) {
+        return EXIT_FAILURE;
+    }
 
     Main();
     if (nothingVisible()) {

@@ -1,3 +1,4 @@
+#include "platform/host/InstalledCopy.h"
 #include "platform/host/Process.h"
 #include "platform/host/ProgramDirectory.h"
 #include "platform/host/Services.h"
@@ -162,6 +163,49 @@ private Q_SLOTS:
         first.reset();
         const host::SingleInstance next(program_->folder());
         QVERIFY(next.isFirst());
+    }
+
+    void installedCopyThatFails_data() {
+        using host::installed::Outcome;
+        QTest::addColumn<bool>("filled");    // the user has a store
+        QTest::addColumn<QString>("absent"); // from what was installed
+        QTest::addColumn<Outcome>("outcome");
+        QTest::addColumn<QString>("named"); // in the reason
+        QTest::newRow("nothing to fill from")
+            << false << u"splash.ps"_s << Outcome::NotFilled << u"splash.ps"_s;
+        QTest::newRow("no store to renew from")
+            << true << u"splash.ps"_s << Outcome::NotRenewed << u"splash.ps"_s;
+        QTest::newRow("a catalogue that cannot be renewed")
+            << true << u"quiverdeck-renew-store"_s << Outcome::NotRenewed << u"splash.ps"_s;
+        QTest::newRow("a file in the place of a folder")
+            << false << u"-"_s << Outcome::NotFilled << u"images"_s;
+    }
+    void installedCopyThatFails() {
+        QFETCH(bool, filled);
+        QFETCH(QString, absent);
+        QFETCH(host::installed::Outcome, outcome);
+        QFETCH(QString, named);
+        touch(u"images/Q001.JPG"_s);
+        if (absent == u"splash.ps")
+            QVERIFY(QFile::remove(program_->store()));
+        const QString data = program_->settingsFolder() + u"/dati"_s;
+        QVERIFY(host::installed::makeFolder(data));
+        const auto write = [&](const QString& name, const QByteArray& text) {
+            QFile file(data + name);
+            return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+        };
+        if (filled)
+            QVERIFY(write(u"/splash.ps"_s, "mine"));
+        if (absent == u"-")
+            QVERIFY(write(u"/images"_s, "a file"));
+        for (int start = 1; start <= 2; ++start) { // tried again at each start
+            const auto result = host::installed::prepare(program_->folder(), data);
+            QCOMPARE(result.outcome, outcome);
+            QVERIFY2(result.reason.contains(named), qPrintable(result.reason));
+            QFile store(data + u"/splash.ps"_s);
+            QCOMPARE(store.open(QIODevice::ReadOnly), filled);
+            QVERIFY(!filled || store.readAll() == "mine");
+        }
     }
 
     void boxes() {
