@@ -6,35 +6,19 @@
 #include "platform/toolkit/Fonts.h"
 #include "platform/toolkit/Twips.h"
 
-#include <QDesktopServices>
-#include <QUrl>
 #include <sqlite3.h>
 
 using toolkit::place;
-
-namespace {
-
-void asLink(toolkit::Label& label, const QString& target) {
-    QFont underlined = label.font();
-    underlined.setUnderline(true);
-    label.setFont(underlined);
-    label.setForegroundRole(QPalette::Link);
-    label.setCursor(Qt::PointingHandCursor);
-    label.setToolTip(target);
-    QObject::connect(&label, &toolkit::Label::clicked, &label,
-                     [target] { QDesktopServices::openUrl(QUrl(target)); });
-}
-
-} // namespace
 
 frmAbout::frmAbout()
     : Form(QStringLiteral("frmAbout")), Image1(QStringLiteral("Image1"), client()),
       Image2(QStringLiteral("Image2"), client()), lblTitle(QStringLiteral("lblTitle"), {}, client()),
       lblVersion(QStringLiteral("lblVersion"), {}, client()),
       lblDescription(QStringLiteral("lblDescription"), {}, client()),
-      lblLink(QStringLiteral("lblLink"), QStringLiteral("www.example.org/quiverdeck"), client()),
+      lblLink(QStringLiteral("lblLink"), QStringLiteral("www.example.org/quiverdeck"), QUrl(paginaWeb()),
+              client()),
       lblLinkEmailAuthor(QStringLiteral("lblLinkEmailAuthor"), QStringLiteral("quiverdeck@example.org"),
-                         client()),
+                         QUrl(posta()), client()),
       lblDisclaimer(QStringLiteral("lblDisclaimer"), {}, client()),
       cmdOK(QStringLiteral("cmdOK"), QStringLiteral("OK"), client()),
       cmdSysInfo(QStringLiteral("cmdSysInfo"), QStringLiteral("&System Info..."), client()) {
@@ -59,6 +43,7 @@ frmAbout::frmAbout()
     place(cmdSysInfo, 4545, 3075, 1110, 345);
     connect(&cmdOK, &toolkit::Button::clicked, this, [this] { unload(); });
     connect(&cmdSysInfo, &toolkit::Button::clicked, this, [] { InformazioniSistema::StartSysInfo(); });
+    cmdOK.setFocus(); // the links stand before it
 }
 
 QString frmAbout::paginaWeb() {
@@ -82,6 +67,4 @@ void frmAbout::onLoad() {
                                              "per gli istruttori e per i loro atleti.\n"
                                              "Licenza MIT – Qt %1, SQLite %2")
                                   .arg(QLatin1String(qVersion()), QLatin1String(sqlite3_libversion())));
-    asLink(lblLink, paginaWeb());
-    asLink(lblLinkEmailAuthor, posta());
 }

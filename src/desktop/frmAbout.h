@@ -3,6 +3,7 @@
 #include "platform/toolkit/Button.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/Label.h"
+#include "platform/toolkit/LinkLabel.h"
 #include "platform/toolkit/PictureBox.h"
 #include "platform/toolkit/Shared.h"
 
@@ -12,7 +13,7 @@ class frmAbout : public toolkit::Form, public toolkit::Shared<frmAbout> {
 public:
     frmAbout();
 
-    /// Where a link leads; its label opens it with the desktop's handler and takes no notice of the result.
+    /// Where a link leads.
     static QString paginaWeb();
     static QString posta();
 
@@ -25,8 +26,8 @@ private:
     toolkit::Label lblTitle;
     toolkit::Label lblVersion;
     toolkit::Label lblDescription;
-    toolkit::Label lblLink;
-    toolkit::Label lblLinkEmailAuthor;
+    toolkit::LinkLabel lblLink;
+    toolkit::LinkLabel lblLinkEmailAuthor;
     toolkit::Label lblDisclaimer;
     toolkit::Button cmdOK;
     toolkit::Button cmdSysInfo;

@@ -150,10 +150,15 @@ private Q_SLOTS:
         QCOMPARE(page.widget(u"cmdOK"_s).geometry(), QRect(302, 175, 75, 23));
         QCOMPARE(page.widget(u"cmdSysInfo"_s).geometry(), QRect(303, 205, 74, 23));
         QCOMPARE(cutTexts(about), QStringList());
-        QCOMPARE(page.tabOrder(), QStringList({u"cmdOK"_s, u"cmdSysInfo"_s}));
+        QCOMPARE(page.tabOrder(),
+                 QStringList({u"lblLink"_s, u"lblLinkEmailAuthor"_s, u"cmdOK"_s, u"cmdSysInfo"_s}));
+        QCOMPARE(about.focusWidget(), &page.widget(u"cmdOK"_s));
         page.press(u"lblLink"_s);
-        page.press(u"lblLinkEmailAuthor"_s);
-        QCOMPARE(links.urls, QStringList({frmAbout::paginaWeb(), frmAbout::posta()}));
+        page.key(u"lblLinkEmailAuthor"_s, Qt::Key_Return);
+        page.key(u"lblLink"_s, Qt::Key_Space);
+        page.key(u"lblLink"_s, Qt::Key_A);
+        QCOMPARE(links.urls, QStringList({frmAbout::paginaWeb(), frmAbout::posta(), frmAbout::paginaWeb()}));
+        QVERIFY(frmAbout::esiste());
         page.press(u"cmdOK"_s);
         QVERIFY(!frmAbout::esiste());
     }

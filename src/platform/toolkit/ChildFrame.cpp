@@ -12,6 +12,7 @@ ChildFrame::ChildFrame(Form& page)
       page_(page) {
     setWidget(&page);
     setSystemMenu(nullptr);
+    setFocusPolicy(Qt::ClickFocus); // Tab visits the page's controls, not its frame
     setWindowTitle(page.windowTitle());
     connect(&page, &QWidget::windowTitleChanged, this, &QWidget::setWindowTitle);
 }

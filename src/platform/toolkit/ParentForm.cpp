@@ -1,7 +1,10 @@
 #include "platform/toolkit/ParentForm.h"
 
 #include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace toolkit {
 
@@ -15,6 +18,20 @@ ParentForm::ParentForm(const QString& name) : Form(name), area_(new QMdiArea(cli
     auto* layout = new QVBoxLayout(client());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(area_);
+    new QShortcut(Qt::Key_F6, this, [this] { turnPage(1); });
+    new QShortcut(Qt::SHIFT | Qt::Key_F6, this, [this] { turnPage(-1); });
+}
+
+void ParentForm::turnPage(int step) {
+    const QList<QMdiSubWindow*> frames = area_->subWindowList();
+    const qsizetype from = std::max<qsizetype>(frames.indexOf(area_->activeSubWindow()), 0);
+    for (qsizetype i = 1; i < frames.size(); ++i) {
+        QMdiSubWindow* frame = frames[(from + (i * step) + frames.size()) % frames.size()];
+        if (frame->isVisible()) {
+            area_->setActiveSubWindow(frame);
+            return;
+        }
+    }
 }
 
 ParentForm::~ParentForm() = default;

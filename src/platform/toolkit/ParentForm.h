@@ -21,6 +21,9 @@ public:
     QList<Form*> pages() const;
 
 private:
+    /// Activates the next visible page in the order of their making; -1 goes back.
+    void turnPage(int step);
+
     friend class Form;
     bool unloadPages() override;
 
