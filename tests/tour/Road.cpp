@@ -72,10 +72,12 @@ void enterAthlete(Tour& tour) {
     tour.fill("txtNote", "Ginocchio destro operato nel 2019: niente salti. Perché migliori, sedute brevi.");
     tour.click("optM");
     tour.shot("atleta");
+    tour.portrait("UtentiNuovo");
     tour.click("CmdSave");
     tour.window("UtentiSelezione");
     tour.until("the athlete in the list", [&] { return tour.text("LW#item:Niccolò") == "Niccolò"; });
     tour.shot("elenco-atleti");
+    tour.portrait("UtentiSelezione");
     tour.click("UtentiSelezione/annulla");
     tour.window("Principale");
 }
@@ -112,6 +114,12 @@ void scrollDown(Tour& tour, int first) {
     tour.until("the next exercises", [&] { return tour.text("nEsercizio_0") == QString::number(first); });
 }
 
+void seeTheEditor(Tour& tour) {
+    tour.shot("esercizi");
+    for (const char* page : {"mdiScheda", "SchedaIntestazione", "SchedaCorpo", "SchedaSelezioneFIGURE"})
+        tour.portrait(page);
+}
+
 void fillExercises(Tour& tour) {
     int first = 1;
     for (const Stop& stop : stops) {
@@ -123,7 +131,7 @@ void fillExercises(Tour& tour) {
         fillRow(tour, 0, stop);
         fillRow(tour, 1, stop);
         if (first == 1)
-            tour.shot("esercizi");
+            seeTheEditor(tour);
         first += 2;
     }
     scrollDown(tour, first);
@@ -147,6 +155,7 @@ void print(Tour& tour) {
     tour.window("PrinterCanvas");
     tour.until("the first sheet", [&] { return tour.text("info").contains("Pagina 1/2"); });
     tour.shot("anteprima-1");
+    tour.portrait("PrinterCanvas");
     const int top = tour.where("canvas")["top"].toInt();
     tour.dragBy("canvas#at:8,500", 0, -60);
     tour.check(tour.where("canvas")["top"].toInt() < top, "the hand drags the page");
@@ -185,6 +194,7 @@ void findItAgain(Tour& tour) {
     chooseTheAthlete(tour);
     tour.window("SchedeSelezione");
     tour.shot("elenco-schede");
+    tour.portrait("SchedeSelezione");
     tour.click("SchedeSelezione/seleziona");
     tour.window("mdiScheda");
     tour.shot("scheda-riaperta");
@@ -210,6 +220,7 @@ void walkTheRoad(Tour& tour) {
     tour.start();
     tour.window("Principale");
     tour.shot("principale");
+    tour.portrait("Principale");
     enterAthlete(tour);
     tour.click("Principale/nuova");
     chooseTheAthlete(tour);

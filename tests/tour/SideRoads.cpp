@@ -16,6 +16,7 @@ void seeTheGym(Tour& tour) {
     tour.check(tour.text("frmPersonalizza/nome") == "Palestra Il Cigno", "the gym's name is shown");
     tour.check(tour.visible("frmPersonalizza/logo"), "the gym's logo is shown");
     tour.shot("palestra");
+    tour.portrait("frmPersonalizza");
     tour.fill("frmPersonalizza/responsabile", "Anna Però e figli");
     tour.click("frmPersonalizza/cmdOK");
     tour.window("Principale");
@@ -26,6 +27,7 @@ void startFromATemplate(Tour& tour) {
     chooseTheAthlete(tour);
     tour.window("SchedeMODELLOSelezione");
     tour.shot("modelli");
+    tour.portrait("SchedeMODELLOSelezione");
     tour.click("SchedeMODELLOSelezione/seleziona");
     tour.window("mdiScheda");
     tour.check(tour.text("SchedaCorpo/figura_0").isEmpty() && !tour.text("status").contains("totale: 00:00"),
@@ -39,6 +41,7 @@ void startFromATemplate(Tour& tour) {
     tour.window("SchedeMODELLONuova");
     tour.fill("SchedeMODELLONuova/descrizione", "Forza per chi ricomincia");
     tour.shot("modello-nuovo");
+    tour.portrait("SchedeMODELLONuova");
     tour.click("SchedeMODELLONuova/cmdOk");
     tour.box("Creata la nuova Scheda Modello 'Forza per chi ricomincia'", "OK");
     tour.click("fine");
@@ -69,6 +72,7 @@ void handOutTheWarnings(Tour& tour) {
     tour.click("mnuSchedeCosaNonFare");
     tour.window("PrinterDaNonFare");
     tour.shot("avvertenze");
+    tour.portrait("PrinterDaNonFare");
     const QString pdf = tour.pictures() + "/avvertenze.pdf";
     tour.click("PrinterDaNonFare/Stampa");
     tour.window("printerDialog");

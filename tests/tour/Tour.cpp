@@ -1,12 +1,13 @@
 #include "Tour.h"
 
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QThread>
 
 namespace {
-constexpr int patience = 10000; // ms a traveller waits for anything
+constexpr int patience = 30000; // ms a traveller waits for anything
 constexpr int glance = 20;      // ms between two looks
 constexpr int dragSteps = 12;   // moves of one drag: the toolkit wants more than one
 } // namespace
@@ -188,6 +189,20 @@ void Tour::shot(const QString& name) {
     const QString file = QString("%1/%2-%3.png").arg(pictures_).arg(++shots, 2, 10, QChar('0')).arg(name);
     if (QProcess::execute("import", {"-window", "root", file}) != 0)
         throw TourError("no picture: " + file);
+}
+
+void Tour::portrait(const QString& name) {
+    const QJsonObject place = where(name);
+    QThread::msleep(150);
+    QDir(pictures_).mkpath("finestre");
+    const QString part = QString("%1x%2+%3+%4")
+                             .arg(place["width"].toInt())
+                             .arg(place["height"].toInt())
+                             .arg(place["left"].toInt())
+                             .arg(place["top"].toInt());
+    if (QProcess::execute("import", {"-window", "root", "-crop", part, "+repage",
+                                     pictures_ + "/finestre/" + name + ".png"}) != 0)
+        throw TourError("no picture of " + name);
 }
 
 void Tour::check(bool holds, const QString& what) {

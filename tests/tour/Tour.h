@@ -16,7 +16,7 @@ public:
 
 /// A traveller at the real program: a real pointer, real keys, and questions to the probe about where things
 /// are. Targets are the probe's: NAME, WINDOW/NAME, NAME#row:0, NAME#tab:1, NAME#item:text, NAME#at:x,y,
-/// box#button:Sì. Every act waits until its target is seen and enabled (at most ten seconds), else it raises
+/// box#button:Sì. Every act waits until its target is seen and enabled (at most thirty seconds), else it raises
 /// TourError.
 class Tour {
 public:
@@ -52,6 +52,8 @@ public:
     void window(const QString& name);
     void until(const QString& what, const std::function<bool()>& condition);
     void shot(const QString& name);
+    /// Keeps a picture of one window or page alone, as NAME.png in the folder `finestre` of the pictures.
+    void portrait(const QString& name);
     void check(bool holds, const QString& what);
 
     QString folder() const { return folder_; }
