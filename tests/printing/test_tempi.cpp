@@ -75,8 +75,7 @@ private Q_SLOTS:
         QTest::newRow("free and empty lines take no part")
             << QList<Line>{{u"30"_s, 3, 1, 20, 1, true}, {u"30"_s, 3, 1, 20, 0, false}, {u"10"_s, 1, 0, 0}}
             << u"00:10 00:00 00:10"_s;
-        QTest::newRow("largest products")
-            << QList<Line>{{u"1"_s, 255, 0, 128}} << u"04:15 9:04:00 9:08:15"_s;
+        QTest::newRow("largest products") << QList<Line>{{u"1"_s, 255, 0, 128}} << u"04:15 9:04:00 9:08:15"_s;
         QTest::newRow("product too large") << QList<Line>{{u"1"_s, 255, 129, 0}} << QString();
         QTest::newRow("duration too large") << QList<Line>{{u"129"_s, 255, 0, 0}} << QString();
     }

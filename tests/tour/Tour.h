@@ -16,8 +16,8 @@ public:
 
 /// A traveller at the real program: a real pointer, real keys, and questions to the probe about where things
 /// are. Targets are the probe's: NAME, WINDOW/NAME, NAME#row:0, NAME#tab:1, NAME#item:text, NAME#at:x,y,
-/// box#button:Sì. Every act waits until its target is seen and enabled (at most thirty seconds), else it raises
-/// TourError.
+/// box#button:Sì. Every act waits until its target is seen and enabled (at most thirty seconds), else it
+/// raises TourError.
 class Tour {
 public:
     /// `folder` is the program's folder, `pictures` takes the screenshots.

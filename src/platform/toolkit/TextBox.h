@@ -28,7 +28,8 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The focus came from another control; behind the mouse press that brought it, if one did (not back from a popup, a box or another window).
+    /// The focus came from another control; behind the mouse press that brought it, if one did (not back from
+    /// a popup, a box or another window).
     void gotFocus();
     void lostFocus();
     /// Enter was pressed.
