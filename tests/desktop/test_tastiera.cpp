@@ -95,8 +95,8 @@ private Q_SLOTS:
     void walk_data() {
         QTest::addColumn<Window>("open");
         QTest::addColumn<int>("stops"); // at least; the toolbars take no focus
-        const auto row = [](const char* name, Window open, int stops) {
-            QTest::newRow(name) << std::move(open) << stops;
+        const auto row = [](const char* name, const Window& open, int stops) {
+            QTest::newRow(name) << open << stops;
         };
         row("Principale", shown<Principale>, 0);
         row("UtentiSelezione", shown<UtentiSelezione>, 2);
