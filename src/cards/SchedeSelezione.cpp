@@ -42,10 +42,11 @@ SchedeSelezione::SchedeSelezione()
     place(LW, -15, 540, 6045, 4590);
     LW.setAccessibleName(QStringLiteral("Schede"));
     LW.addColumn(QStringLiteral("ID_scheda"), 0);
-    LW.addColumn(QStringLiteral("Dal"), 1020);
-    LW.addColumn(QStringLiteral("Al"), 1020);
-    LW.addColumn(QStringLiteral("Istruttore"), 1890);
-    LW.addColumn(QStringLiteral("Categoria"), 1830);
+    // A date and "Condizionamento generale" show whole; together the columns fill the list.
+    LW.addColumn(QStringLiteral("Dal"), 930);
+    LW.addColumn(QStringLiteral("Al"), 930);
+    LW.addColumn(QStringLiteral("Istruttore"), 2085);
+    LW.addColumn(QStringLiteral("Categoria"), 2070);
 
     connect(&Toolbar, &toolkit::Toolbar::buttonClick, this, &SchedeSelezione::Toolbar_ButtonClick);
     connect(&LW, &toolkit::ReportList::doubleClick, this, &SchedeSelezione::seleziona);

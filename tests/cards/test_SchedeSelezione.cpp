@@ -45,6 +45,20 @@ private Q_SLOTS:
         QCOMPARE(page.list().itemText(0), u"2"_s);
     }
 
+    void columnsShowTheCategoriesWhole() {
+        program_->sql(u"UPDATE categorie SET nome='Condizionamento generale' WHERE id_cat=1"_s);
+        const FormPage page(open(1));
+        toolkit::ReportList& lista = page.list();
+        const QAbstractItemView& vista = lista;
+        int insieme = 0;
+        for (int colonna = 1; colonna <= 4; ++colonna) {
+            QVERIFY2(vista.sizeHintForColumn(colonna) <= lista.columnWidth(colonna),
+                     qPrintable(QString::number(colonna)));
+            insieme += lista.columnWidth(colonna);
+        }
+        QVERIFY(insieme <= lista.viewport()->QWidget::width()); // no scroll bar below
+    }
+
     void choosing_data() {
         QTest::addColumn<int>("presses"); // 1 the button, 2 a double click
         QTest::newRow("button") << 1;
