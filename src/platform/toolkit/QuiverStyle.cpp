@@ -54,6 +54,16 @@ void drawChevron(QPainter* painter, const QRect& place, const QColor& colour) {
     painter->restore();
 }
 
+/// A frame of one pixel, filled rather than drawn with a pen: where the screen's scale is no whole number, a
+/// pen's line may fall outside of the widget and vanish.
+void drawOutline(QPainter* painter, const QRect& frame) {
+    const QRectF r(frame);
+    painter->fillRect(QRectF(r.left(), r.top(), r.width(), 1), line());
+    painter->fillRect(QRectF(r.left(), r.bottom() - 1, r.width(), 1), line());
+    painter->fillRect(QRectF(r.left(), r.top(), 1, r.height()), line());
+    painter->fillRect(QRectF(r.right() - 1, r.top(), 1, r.height()), line());
+}
+
 } // namespace
 
 QuiverStyle::QuiverStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -277,6 +287,10 @@ void QuiverStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         painter->setPen(line());
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
         painter->restore();
+        return;
+    }
+    if (element == PE_Frame) { // lists, texts of several lines, pictures
+        drawOutline(painter, option->rect);
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
