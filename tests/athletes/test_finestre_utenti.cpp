@@ -176,18 +176,22 @@ private Q_SLOTS:
     void missingData_data() {
         QTest::addColumn<QString>("nome");
         QTest::addColumn<QString>("cognome");
-        QTest::newRow("no first name") << QString() << u"Rossi"_s;
-        QTest::newRow("no surname") << u"Ada"_s << QString();
+        QTest::addColumn<QString>("note");
+        QTest::newRow("no first name") << QString() << u"Rossi"_s << u"Ernia"_s;
+        QTest::newRow("no surname") << u"Ada"_s << QString() << u"Ernia"_s;
+        QTest::newRow("no notes") << u"Ada"_s << u"Rossi"_s << QString();
     }
     void missingData() {
         QFETCH(QString, nome);
         QFETCH(QString, cognome);
+        QFETCH(QString, note);
         UtentiNuovo& form = UtentiNuovo::comune();
         form.Tag = u"0"_s;
         form.show();
         const FormPage page(form);
         page.type(u"txtNome"_s, nome);
         page.type(u"txtCognome"_s, cognome);
+        page.type(u"txtNote"_s, note);
         boxes_->expect(Icon::Critical, u"Mancano alcuni dati essenziali!"_s);
         page.press(u"CmdSave"_s);
         QVERIFY(form.isVisible());
