@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QThread>
 
+#include <utility>
+
 namespace {
 constexpr int patience = 30000; // ms a traveller waits for anything
 constexpr int glance = 20;      // ms between two looks
@@ -77,10 +79,12 @@ QJsonObject Tour::see(const QString& target) {
 }
 
 QJsonObject Tour::where(const QString& target) {
+    // Two looks must agree: a window manager moves what has just come up.
     QJsonObject place;
     until(target + " to be seen", [&] {
-        place = see(target);
-        return place["found"].toBool() && place["visible"].toBool() && place["enabled"].toBool(true);
+        const QJsonObject before = std::exchange(place, see(target));
+        return place["found"].toBool() && place["visible"].toBool() && place["enabled"].toBool(true) &&
+               place["x"] == before["x"] && place["y"] == before["y"];
     });
     return place;
 }
@@ -154,7 +158,10 @@ void Tour::fill(const QString& target, const QString& text) {
 }
 
 void Tour::box(const QString& text, const QString& button, const QString& picture) {
-    until("the box '" + text + "'", [&] { return see("box")["text"].toString().contains(text); });
+    until("the box '" + text + "'", [&] {
+        const QJsonObject box = see("box");
+        return box["text"].toString().contains(text) && box["focus"].toBool();
+    });
     if (!picture.isEmpty())
         shot(picture);
     click("box#button:" + button);
