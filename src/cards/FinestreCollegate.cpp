@@ -57,4 +57,8 @@ void mostraPrincipale() {
     Principale::comune().mostra();
 }
 
+void nascondiPrincipale() {
+    Principale::comune().nascondi();
+}
+
 } // namespace finestre

@@ -29,5 +29,6 @@ void mostraAnteprima();
 void chiediNuovoModello();
 
 void mostraPrincipale();
+void nascondiPrincipale();
 
 } // namespace finestre

@@ -2,6 +2,7 @@
 
 #include "artwork/icons/Icone.h"
 #include "cards/Esercizio.h"
+#include "cards/SchedaSospesa.h"
 #include "cards/ValoriEsercizio.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/toolkit/Twips.h"
@@ -191,6 +192,40 @@ void RigaEsercizio::scrivi(Esercizio& e) {
         e.note = noteLibere.text();
     }
     figura.scrivi(e);
+}
+
+TestiRiga RigaEsercizio::testi() const {
+    return {.isLibero = isLibero(),
+            .figura = figura.Tag,
+            .durata = durata.text(),
+            .frequenza = frequenza.text(),
+            .ampiezza = ampiezza.text(),
+            .recuperoMin = recuperoMin.text(),
+            .recuperoSec = recuperoSec.text(),
+            .serie = serie.text(),
+            .modalita = modalita.text(),
+            .peso = peso.text(),
+            .note = note.text(),
+            .noteLibere = noteLibere.text()};
+}
+
+void RigaEsercizio::riprendi(const TestiRiga& testi) {
+    TipoEsercizio.select(testi.isLibero ? 2 : 1);
+    durata.setText(testi.durata);
+    frequenza.setText(testi.frequenza);
+    ampiezza.setText(testi.ampiezza);
+    recuperoMin.setText(testi.recuperoMin);
+    recuperoSec.setText(testi.recuperoSec);
+    serie.setText(testi.serie);
+    modalita.setText(testi.modalita);
+    peso.setText(testi.peso);
+    note.setText(testi.note);
+    noteLibere.setText(testi.noteLibere);
+    if (testi.figura.isEmpty()) {
+        figura.svuota();
+    } else if (testi.figura != figura.Tag) {
+        figura.prendi(testi.figura);
+    }
 }
 
 void RigaEsercizio::normalizza() {

@@ -12,6 +12,7 @@
 #include <array>
 
 class Esercizio;
+struct TestiRiga;
 
 /// The controls of one row of the exercise page, and the two ways between them and an exercise. The names of
 /// the controls carry the row's index, as `durata_0`; the free text is `note_` with the index plus the rows.
@@ -30,6 +31,9 @@ public:
     void normalizza();
     /// Shows the frame of the selected tab.
     void mostraTipo();
+    /// What the controls show now, and the way back.
+    TestiRiga testi() const;
+    void riprendi(const TestiRiga& testi);
 
     bool isLibero() const;
     std::array<toolkit::Combo*, 4> elenchi() { return {&durata, &frequenza, &ampiezza, &modalita}; }

@@ -12,6 +12,7 @@
 #include "printing/ContatoreTempi.h"
 
 #include <QScopedValueRollback>
+#include <algorithm>
 
 namespace {
 
@@ -162,6 +163,36 @@ void SchedaCorpo::ScriviDati() {
     const SchedaApribile& scheda = aperta();
     for (int i = 0; i < nRighe; ++i) {
         riga.at(static_cast<std::size_t>(i)).scrivi(*scheda.esercizi->Item(primoEsercizio + i));
+    }
+}
+
+PaginaEsercizi SchedaCorpo::pagina() const {
+    PaginaEsercizi stato{.posizione = VS.value(), .massimo = VS.maximum(), .righe = {}};
+    for (const RigaEsercizio& r : riga) {
+        stato.righe.push_back(r.testi());
+    }
+    return stato;
+}
+
+void SchedaCorpo::riprendi(const std::vector<Esercizio>& lette, const std::optional<PaginaEsercizi>& stava) {
+    SchedaApribile& scheda = aperta();
+    if (stava) {
+        VS.setMax(stava->massimo);
+        VS.setValue(stava->posizione); // the page moves there, and writes on its way
+        VS.setMax(stava->massimo);
+    }
+    // The page has added empty lines to a list that had them already.
+    while (scheda.esercizi->Count() > std::max(static_cast<int>(lette.size()), primoEsercizio + nRighe - 1)) {
+        scheda.esercizi->Remove(scheda.esercizi->Count());
+    }
+    for (std::size_t i = 0; i < lette.size(); ++i) {
+        *scheda.esercizi->Item(static_cast<int>(i) + 1) = lette[i];
+    }
+    mostraEsercizi();
+    normalizzaCampi();
+    for (std::size_t i = 0; stava && i < std::min(riga.size(), stava->righe.size()); ++i) {
+        const QScopedValueRollback<bool> caricamento(inCaricamento, true);
+        riga[i].riprendi(stava->righe[i]);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cards/RigaEsercizio.h"
+#include "cards/SchedaSospesa.h"
 #include "platform/toolkit/Form.h"
 #include "platform/toolkit/ScrollBar.h"
 #include "platform/toolkit/Shared.h"
@@ -8,6 +9,8 @@
 #include "printing/PictureCache.h"
 
 #include <array>
+#include <optional>
+#include <vector>
 
 class SchedaApribile;
 
@@ -24,6 +27,11 @@ public:
 
     /// Copies every row's controls into its exercise. Error 6 for a number beyond 8 bits.
     void ScriviDati();
+
+    /// Where the page stands and what its rows show.
+    PaginaEsercizi pagina() const;
+    /// Brings back the lines of the open record and, where given, the page as it stood.
+    void riprendi(const std::vector<Esercizio>& lette, const std::optional<PaginaEsercizi>& stava);
 
 protected:
     void onLoad() override;

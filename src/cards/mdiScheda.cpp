@@ -100,6 +100,20 @@ void mdiScheda::mostra() {
     if (schedaAperta->id_scheda != 0) {
         schedaAperta->caricaEsercizi();
     }
+    presenta();
+}
+
+void mdiScheda::riapri(const std::shared_ptr<SchedaApribile>& scheda) {
+    ToolbarSchede.setVisible(true);
+    if (idUtenteSelezionato != 0) {
+        utente->carica(idUtenteSelezionato);
+    }
+    schedaAperta = scheda;
+    ToolbarSchede.setButtonEnabled(pulsanteSalva, !schedaAperta->preimpostata);
+    presenta();
+}
+
+void mdiScheda::presenta() {
     contaTempi = std::make_shared<ContatoreTempi>();
     contaTempi->schedaCorrente = schedaAperta;
     contaTempi->barraStato = &StatusBar1;

@@ -26,6 +26,8 @@ public:
     /// Opens the editor on what the globals say: a stored card, a new one, a template, or a new card from a
     /// template.
     void mostra();
+    /// Opens the editor on a record as it stands, for the athlete that the globals say.
+    void riapri(const std::shared_ptr<SchedaApribile>& scheda);
 
     std::shared_ptr<SchedaApribile> schedaAperta; ///< null before the first `mostra`
     std::shared_ptr<::utente> utente;             ///< the athlete of the card
@@ -42,6 +44,7 @@ protected:
 private:
     void caricaImmagini();
     void creaScheda();
+    void presenta();
     void disponiPagine();
     void premuto(const QString& chiave);
     void salva();

@@ -1,6 +1,7 @@
 #include "core/Avvio.h"
 
 #include "artwork/logos/Loghi.h"
+#include "cards/RipresaScheda.h"
 #include "core/Main.h"
 #include "core/Principale.h"
 #include "desktop/Schermo.h"
@@ -143,6 +144,14 @@ int avvia(int& argc, char** argv) {
     const bool started = Principale::esiste() && Principale::comune().isVisible();
     EndOfProgram end;
     application.installEventFilter(&end);
+    RipresaScheda ripresa;
+    toolkit::Application::setEventObserver(
+        [&ripresa](bool fatal) { fatal ? ripresa.primaDellaFine() : ripresa.dopoEvento(); });
+    if (started) {
+        QMetaObject::invokeMethod(
+            &application, [&ripresa] { ripresa.proponi(); }, Qt::QueuedConnection);
+    }
     const int status = QApplication::exec();
+    toolkit::Application::setEventObserver({});
     return started ? status : EXIT_FAILURE;
 }

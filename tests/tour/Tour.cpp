@@ -48,6 +48,13 @@ int Tour::waitForEnd() {
     return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
 }
 
+void Tour::kill() {
+    program.kill();
+    if (!program.waitForFinished(patience))
+        throw TourError("the program survives");
+    probe.abort();
+}
+
 int Tour::startAgain() {
     QProcess second;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

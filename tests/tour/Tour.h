@@ -27,6 +27,8 @@ public:
     void start();
     /// Waits for the process to end by itself; gives its exit code.
     int waitForEnd();
+    /// Ends the process at once, as a power cut would; `start` starts another one.
+    void kill();
     /// Starts the program a second time and gives the exit code of that second process.
     int startAgain();
 

@@ -10,7 +10,10 @@
 #include <QEvent>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <QScreen>
+#include <QThread>
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
@@ -24,6 +27,31 @@ constexpr auto scaleVariable = "QT_SCALE_FACTOR";
 FatalHandler& fatalHandler() {
     static FatalHandler handler;
     return handler;
+}
+
+EventObserver& eventObserver() {
+    static EventObserver observer;
+    return observer;
+}
+
+/// Events that come in numbers and change nothing in a record.
+bool changesNothing(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::Paint:
+    case QEvent::UpdateRequest:
+    case QEvent::LayoutRequest:
+    case QEvent::Enter:
+    case QEvent::Leave:
+    case QEvent::HoverEnter:
+    case QEvent::HoverLeave:
+    case QEvent::HoverMove:
+    case QEvent::ToolTip:
+        return true;
+    case QEvent::MouseMove:
+        return static_cast<const QMouseEvent&>(event).buttons() == Qt::NoButton;
+    default:
+        return false;
+    }
 }
 
 bool& scaleIsOurs() {
@@ -79,6 +107,9 @@ void Application::prepareScale(int& argc, char** argv) {
 }
 
 void Application::fatal(int number, const QString& description) {
+    if (eventObserver()) {
+        eventObserver()(true);
+    }
     if (fatalHandler()) {
         fatalHandler()(number, description);
         return;
@@ -100,13 +131,27 @@ void Application::setFatalHandler(FatalHandler handler) {
     fatalHandler() = std::move(handler);
 }
 
+void Application::setEventObserver(EventObserver observer) {
+    eventObserver() = std::move(observer);
+}
+
 void Application::purge() {
     sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
+    // The event that a loop delivered, not one that its handlers sent; each loop inside has its own.
+    static int loop = -1;
+    const int level = QThread::currentThread()->loopLevel();
+    const bool outermost = level > loop;
+    const bool observed = outermost && eventObserver() && !changesNothing(*event);
+    const QScopedValueRollback<int> delivering(loop, std::max(loop, level));
     try {
-        return Validation::stops(receiver, event) || QApplication::notify(receiver, event);
+        const bool handled = Validation::stops(receiver, event) || QApplication::notify(receiver, event);
+        if (observed && eventObserver()) {
+            eventObserver()(false);
+        }
+        return handled;
     } catch (const runtime::Error& error) {
         fatal(error.number(), error.description());
     } catch (const std::exception& error) {

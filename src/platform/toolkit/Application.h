@@ -9,6 +9,11 @@ namespace toolkit {
 /// Called in place of the report box and the end of the process.
 using FatalHandler = std::function<void(int number, const QString& description)>;
 
+/// Called behind each event that the event loop has delivered and that may have changed something, whatever
+/// events it sent in turn; events of a box's or a dialog's own loop count too. `fatal` tells of a report that
+/// is about to be shown.
+using EventObserver = std::function<void(bool fatal)>;
+
 /// The application: Italian texts, the one style, and the one place where an uncaught exception ends.
 class Application : public QApplication {
     Q_OBJECT
@@ -29,6 +34,9 @@ public:
 
     /// Replaces report and end; an empty handler brings them back.
     static void setFatalHandler(FatalHandler handler);
+
+    /// Installs the one observer of events; an empty one takes it away.
+    static void setEventObserver(EventObserver observer);
 
     /// Destroys the unloaded forms that wait for the event loop.
     static void purge();

@@ -1,0 +1,149 @@
+#include "cards/RipresaScheda.h"
+
+#include "athletes/utente.h"
+#include "cards/FinestreCollegate.h"
+#include "cards/SchedaApribile.h"
+#include "cards/SchedaCorpo.h"
+#include "cards/mdiScheda.h"
+#include "core/variabiliGlobali.h"
+#include "platform/host/Services.h"
+#include "platform/runtime/Error.h"
+#include "templates/SchedaModello.h"
+
+#include <QFileInfo>
+
+using namespace variabiliGlobali;
+
+namespace {
+
+bool editorAperto() {
+    return mdiScheda::esiste() && mdiScheda::comune().isVisible() && mdiScheda::comune().schedaAperta;
+}
+
+QString nomeDi(const mdiScheda& editor) {
+    if (const auto* modello = dynamic_cast<const SchedaModello*>(editor.schedaAperta.get())) {
+        return modello->descrizione;
+    }
+    return editor.utente->cognome + u' ' + editor.utente->nome;
+}
+
+QString domanda(const SchedaSospesa& sospesa) {
+    return QStringLiteral("Ripristinare la scheda che era aperta%1 %2, ultima modifica il %3 alle %4?\n\n"
+                          "Il programma si era chiuso in modo imprevisto. Con «No» la scheda resta "
+                          "conservata in un file a parte.")
+        .arg(sospesa.scheda->isModello ? QStringLiteral(" (modello)") : QStringLiteral(" per"), sospesa.nome,
+             sospesa.ora.toString(QStringLiteral("dd/MM/yyyy")),
+             sospesa.ora.toString(QStringLiteral("HH:mm")));
+}
+
+} // namespace
+
+bool RipresaScheda::scrivi() {
+    if (riaprendo_) {
+        return true;
+    }
+    if (!editorAperto()) {
+        if (!scritto_.isEmpty()) {
+            file_.rimuovi();
+            scritto_.clear();
+        }
+        return true;
+    }
+    const mdiScheda& editor = mdiScheda::comune();
+    eliminate_.guarda(editor.schedaAperta);
+    SchedaSospesa sospesa{.idUtenteSelezionato = idUtenteSelezionato,
+                          .idSchedaSelezionata = idSchedaSelezionata,
+                          .idModelloSelezionato = idModelloSelezionato,
+                          .nome = nomeDi(editor),
+                          .scheda = editor.schedaAperta,
+                          .pagina = {},
+                          .eliminati = eliminate_.righe(),
+                          .ora = {}};
+    if (SchedaCorpo::esiste() && SchedaCorpo::comune().isLoaded()) {
+        sospesa.pagina = SchedaCorpo::comune().pagina();
+    }
+    const QByteArray stato = sospesa.stato();
+    if (stato == scritto_) {
+        return true;
+    }
+    if (!file_.scrivi(SchedaSospesa::file(stato, QDateTime::currentDateTime()))) {
+        return false;
+    }
+    scritto_ = stato;
+    return true;
+}
+
+void RipresaScheda::dopoEvento() {
+    if (scrivi() || avvisato_) {
+        return;
+    }
+    avvisato_ = true; // before the box: its own events come here too
+    host::message(
+        QStringLiteral("Impossibile scrivere «%1», la copia di sicurezza della scheda aperta: se il "
+                       "programma si chiudesse ora, le modifiche non salvate andrebbero perse.")
+            .arg(QFileInfo(file_.percorso()).fileName()),
+        host::Icon::Exclamation);
+}
+
+void RipresaScheda::primaDellaFine() noexcept {
+    try {
+        scrivi();
+    } catch (...) { // the report that follows tells of the first error
+    }
+}
+
+void RipresaScheda::scarta(const QString& motivo, const QString& spiegazione) const {
+    const QString nome = file_.mettiDaParte(motivo);
+    host::message(nome.isEmpty() ? spiegazione
+                                 : spiegazione + QStringLiteral("\n\nIl file è conservato con il nome «%1».")
+                                                     .arg(QFileInfo(nome).fileName()),
+                  host::Icon::Exclamation);
+}
+
+void RipresaScheda::proponi() {
+    if (!file_.esiste() || editorAperto()) {
+        return;
+    }
+    const auto contenuto = file_.leggi();
+    auto sospesa = contenuto ? SchedaSospesa::leggi(*contenuto) : std::nullopt;
+    if (!sospesa) {
+        scarta(QStringLiteral("danneggiata"),
+               QStringLiteral("La copia di sicurezza della scheda che era aperta è danneggiata e non si può "
+                              "ripristinare."));
+        return;
+    }
+    if (host::ask(domanda(*sospesa), host::Icon::Question, host::Buttons::YesNo) != host::Answer::Yes) {
+        file_.mettiDaParte(QStringLiteral("rifiutata"));
+        return;
+    }
+    try {
+        if (!sospesa->confronta()) {
+            scarta(QStringLiteral("senzaAtleta"),
+                   QStringLiteral("L’atleta della scheda, %1, non è più in archivio.").arg(sospesa->nome));
+            return;
+        }
+    } catch (const runtime::Error& error) {
+        host::message(QStringLiteral("Per ora la scheda non si può ripristinare: ") + error.description(),
+                      host::Icon::Exclamation);
+        return;
+    }
+    riapri(*sospesa);
+}
+
+void RipresaScheda::riapri(SchedaSospesa& sospesa) {
+    idUtenteSelezionato = sospesa.idUtenteSelezionato;
+    idSchedaSelezionata = sospesa.idSchedaSelezionata;
+    idModelloSelezionato = sospesa.idModelloSelezionato;
+    const bool isSaved = sospesa.scheda->isSaved;
+    std::vector<Esercizio> righe; // loading the pages writes into the lines
+    for (const auto& riga : *sospesa.scheda->esercizi) {
+        righe.push_back(*riga);
+    }
+    riaprendo_ = true; // and stays so if an error ends the program on the way
+    mdiScheda::comune().riapri(sospesa.scheda);
+    finestre::nascondiPrincipale();
+    SchedaCorpo::comune().riprendi(righe, sospesa.pagina);
+    sospesa.scheda->isSaved = isSaved;
+    eliminate_.riprendi(sospesa.scheda, std::move(sospesa.eliminati));
+    riaprendo_ = false;
+}
