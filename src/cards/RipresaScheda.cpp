@@ -28,10 +28,11 @@ QString nomeDi(const mdiScheda& editor) {
 }
 
 QString domanda(const SchedaSospesa& sospesa) {
-    return QStringLiteral("Ripristinare la scheda che era aperta%1 %2, ultima modifica il %3 alle %4?\n\n"
+    return QStringLiteral("Ripristinare la scheda che era aperta %1, ultima modifica il %2 alle %3?\n\n"
                           "Il programma si era chiuso in modo imprevisto. Con «No» la scheda resta "
                           "conservata in un file a parte.")
-        .arg(sospesa.scheda->isModello ? QStringLiteral(" (modello)") : QStringLiteral(" per"), sospesa.nome,
+        .arg((sospesa.scheda->isModello ? QStringLiteral("(modello «%1»)") : QStringLiteral("per %1"))
+                 .arg(sospesa.nome),
              sospesa.ora.toString(QStringLiteral("dd/MM/yyyy")),
              sospesa.ora.toString(QStringLiteral("HH:mm")));
 }

@@ -142,7 +142,7 @@ private Q_SLOTS:
         }
         interrompi();
         AlLavoro custode;
-        e.riquadri.expectBeginning(Icon::Question, domanda + u" (modello) Mio"_s, Answer::Yes);
+        e.riquadri.expectBeginning(Icon::Question, domanda + u" (modello «Mio»)"_s, Answer::Yes);
         custode.ripresa.proponi();
         QVERIFY(e.riquadri.satisfied());
         QVERIFY(EditorAperto::aperta().isModello);

@@ -231,4 +231,5 @@ void walkTheRoad(Tour& tour) {
     walkTheSideRoads(tour);
     tour.click("Principale/esci");
     tour.check(tour.waitForEnd() == 0, "the program ends well");
+    tour.check(!QFileInfo::exists(tour.folder() + "/splash.ps.aperta"), "no open card is left behind");
 }

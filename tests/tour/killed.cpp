@@ -19,6 +19,16 @@ void addAthlete(const QString& folder) {
         throw TourError(sqlite3_errmsg(handle));
 }
 
+/// Answers a box of the start by keyboard: the window manager may still be placing it.
+void answer(Tour& tour, const QString& text, const QString& key, const QString& picture = {}) {
+    tour.window("messageBox");
+    tour.until("the box '" + text + "'", [&] { return tour.text("box").contains(text); });
+    if (!picture.isEmpty())
+        tour.shot(picture);
+    tour.key(key);
+    tour.until("the box to close", [&] { return !tour.text("box").contains(text); });
+}
+
 /// Killed while a card is being written, asked at the next start, and the card stands there as it stood.
 void killAndRestore(Tour& tour) {
     const QString side = tour.folder() + "/splash.ps.aperta";
@@ -45,7 +55,7 @@ void killAndRestore(Tour& tour) {
     tour.kill();
 
     tour.start();
-    tour.box("Ripristinare la scheda che era aperta per Rossi Anna", "Sì", "domanda");
+    answer(tour, "Ripristinare la scheda che era aperta per Rossi Anna", "Return", "domanda");
     tour.window("mdiScheda");
     tour.shot("dopo");
     for (const auto& [field, text] :
@@ -59,7 +69,7 @@ void killAndRestore(Tour& tour) {
     // Declined, it is kept under another name.
     tour.kill();
     tour.start();
-    tour.box("Ripristinare la scheda che era aperta", "No");
+    answer(tour, "Ripristinare la scheda che era aperta", "Escape");
     tour.window("Principale");
     tour.check(!QFileInfo::exists(side), "the side file has another name");
     const QStringList kept = QDir(tour.folder()).entryList({"splash.ps.aperta.rifiutata-*"});
@@ -72,7 +82,7 @@ void killAndRestore(Tour& tour) {
         throw TourError("no damaged file");
     damaged.close();
     tour.start();
-    tour.box("danneggiata", "OK");
+    answer(tour, "danneggiata", "Return");
     tour.window("Principale");
     tour.click("Principale/esci");
     tour.check(tour.waitForEnd() == 0, "the program ends well");
