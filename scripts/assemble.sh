@@ -6,8 +6,10 @@ build=$1
 folder=$2
 mkdir -p "$folder/images" "$folder/HELP"
 # A program that is running keeps its own copy: the new one takes the name.
-install -m 755 "$build/src/quiverdeck" "$folder/quiverdeck.new"
-mv -f "$folder/quiverdeck.new" "$folder/quiverdeck"
+for program in quiverdeck quiverdeck-backup; do
+    install -m 755 "$build/src/$program" "$folder/$program.new"
+    mv -f "$folder/$program.new" "$folder/$program"
+done
 cp -ru "$build/images/." "$folder/images/"
 [ -d "$build/HELP" ] && cp -ru "$build/HELP/." "$folder/HELP/"
 if [ ! -e "$folder/splash.ps" ]; then

@@ -2,6 +2,7 @@
 
 #include "artwork/logos/Loghi.h"
 #include "cards/RipresaScheda.h"
+#include "core/CopieArchivio.h"
 #include "core/Main.h"
 #include "core/Principale.h"
 #include "desktop/Schermo.h"
@@ -137,11 +138,18 @@ int avvia(int& argc, char** argv) {
         return EXIT_FAILURE;
     }
 
+    if (CopieArchivio::troppoRecente()) {
+        return EXIT_FAILURE;
+    }
+    CopieArchivio copie;
     Main();
+    const bool started = Principale::esiste() && Principale::comune().isVisible();
+    if (!started) {
+        copie.proponi(); // right behind the error's own box
+    }
     if (nothingVisible()) {
         return EXIT_FAILURE;
     }
-    const bool started = Principale::esiste() && Principale::comune().isVisible();
     EndOfProgram end;
     application.installEventFilter(&end);
     RipresaScheda ripresa;
@@ -149,7 +157,12 @@ int avvia(int& argc, char** argv) {
         [&ripresa](bool fatal) { fatal ? ripresa.primaDellaFine() : ripresa.dopoEvento(); });
     if (started) {
         QMetaObject::invokeMethod(
-            &application, [&ripresa] { ripresa.proponi(); }, Qt::QueuedConnection);
+            &application,
+            [&ripresa, &copie] {
+                copie.copia();
+                ripresa.proponi();
+            },
+            Qt::QueuedConnection);
     }
     const int status = QApplication::exec();
     toolkit::Application::setEventObserver({});
