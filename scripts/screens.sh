@@ -7,7 +7,7 @@ build=$1
 for size in 1024x768 1920x1080; do
     tests/tour/tour "$build" "build/screens-$size" "$size"
     mkdir -p "docs/screens/$size"
-    rm -f "docs/screens/$size"/*.png
+    find "docs/screens/$size" -name '*.png' ! -name avvio.png -delete # the splash is taken by hand
     for picture in "build/screens-$size"/[0-9]*.png; do
         name=$(basename "$picture")
         convert "$picture" -colors 64 -depth 8 -strip "PNG8:docs/screens/$size/${name#[0-9][0-9]-}"

@@ -5,6 +5,11 @@
 #include "platform/toolkit/Fonts.h"
 #include "platform/toolkit/Twips.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QWindow>
+
 #include <cmath>
 
 using toolkit::place;
@@ -15,6 +20,7 @@ constexpr double sinistra = 120;
 constexpr double alto = 120;
 constexpr double larghezza = 3975;
 constexpr double altezza = 360;
+constexpr int attesaMassima = 200; // milliseconds
 
 } // namespace
 
@@ -47,6 +53,15 @@ void Tool_BarProg::onLoad() {
     ridisegna();
 }
 
+void Tool_BarProg::onActivate() {
+    QElapsedTimer attesa;
+    attesa.start();
+    while (isVisible() && !windowHandle()->isExposed() && attesa.elapsed() < attesaMassima) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents,
+                                        20);
+    }
+}
+
 void Tool_BarProg::setTitolo(const QString& s) {
     setCaption(s);
 }
@@ -73,6 +88,7 @@ void Tool_BarProg::update(float& nPasso) {
 void Tool_BarProg::Chiudi() {
     setPointer(Pointer::Default);
     unload();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); // it leaves the screen now
 }
 
 void Tool_BarProg::ridisegna() {

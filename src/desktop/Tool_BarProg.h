@@ -23,6 +23,9 @@ public:
 
 protected:
     void onLoad() override;
+    /// Waits, a moment at most, until the window really is on the screen: a fill is over so soon that nothing
+    /// but an empty frame would be seen.
+    void onActivate() override;
 
 private:
     void ridisegna();

@@ -100,6 +100,27 @@ void readTheGuide(Tour& tour) {
     tour.window("Principale");
 }
 
+/// The try-outs behind the button that is not shown; each closes by its frame.
+void lookBehindTheButton(Tour& tour) {
+    tour.key("ctrl+shift+F12");
+    tour.click("Principale/test");
+    tour.window("zfrmTestDB");
+    tour.shot("prove");
+    const char* const tries[][2] = {{"cmdConteggi", "frmDisplay"},
+                                    {"cmdDragAndDrop", "zTESTDragAndDrop"},
+                                    {"cmdTreeViewImage", "zTestTreeViewImage"},
+                                    {"cmdSchedaCorpo2", "SchedaCorpo2"}};
+    for (const auto& [button, window] : tries) {
+        tour.click(QString("zfrmTestDB/%1").arg(button));
+        tour.window(window);
+        tour.shot(window);
+        tour.key("alt+F4");
+        tour.window("zfrmTestDB");
+    }
+    tour.key("alt+F4");
+    tour.window("Principale");
+}
+
 } // namespace
 
 void walkTheSideRoads(Tour& tour) {
@@ -108,4 +129,5 @@ void walkTheSideRoads(Tour& tour) {
     changeATemplate(tour);
     handOutTheWarnings(tour);
     readTheGuide(tour);
+    lookBehindTheButton(tour);
 }
