@@ -8,21 +8,21 @@ namespace sheet {
 /// An element seen as a control's rectangle. The element must outlive it.
 class ElementBox final : public host::Box {
 public:
-    explicit ElementBox(Element& element) : mElement(element) {}
+    explicit ElementBox(Element& element) : element_(element) {}
 
-    double left() const override { return mElement.left; }
-    double top() const override { return mElement.top; }
-    double width() const override { return mElement.width; }
-    double height() const override { return mElement.height; }
-    void setLeft(double twips) override { mElement.left = twips; }
-    void setTop(double twips) override { mElement.top = twips; }
-    void setWidth(double twips) override { mElement.width = twips; }
-    void setHeight(double twips) override { mElement.height = twips; }
-    void setVisible(bool visible) override { mElement.visible = visible; }
+    double left() const override { return element_.left; }
+    double top() const override { return element_.top; }
+    double width() const override { return element_.width; }
+    double height() const override { return element_.height; }
+    void setLeft(double twips) override { element_.left = twips; }
+    void setTop(double twips) override { element_.top = twips; }
+    void setWidth(double twips) override { element_.width = twips; }
+    void setHeight(double twips) override { element_.height = twips; }
+    void setVisible(bool visible) override { element_.visible = visible; }
     void refresh() override {} ///< The surface is painted as a whole.
 
 private:
-    Element& mElement;
+    Element& element_;
 };
 
 } // namespace sheet

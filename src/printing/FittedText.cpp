@@ -86,7 +86,7 @@ QFont pageFont(const Font& font, double sizeScale) {
     return result;
 }
 
-FittedText::FittedText(const Element& element) : mElement(element) {
+FittedText::FittedText(const Element& element) : element_(element) {
     QString text = element.text;
     text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n').replace(u'\t', u' ');
     if (element.wordWrap)
@@ -97,60 +97,60 @@ FittedText::FittedText(const Element& element) : mElement(element) {
 }
 
 double FittedText::usableWidth() const {
-    return mElement.usableWidth > 0 ? mElement.usableWidth : mElement.width;
+    return element_.usableWidth > 0 ? element_.usableWidth : element_.width;
 }
 
 double FittedText::usableHeight() const {
-    return mElement.usableHeight > 0 ? mElement.usableHeight : mElement.height;
+    return element_.usableHeight > 0 ? element_.usableHeight : element_.height;
 }
 
 void FittedText::useScale(double scale) {
-    mSizeScale = scale;
-    mFont = pageFont(mElement.font, scale);
-    mLineHeight = QFontMetricsF(mFont).height();
+    sizeScale_ = scale;
+    font_ = pageFont(element_.font, scale);
+    lineHeight_ = QFontMetricsF(font_).height();
 }
 
 double FittedText::widthOf(const QString& text) const {
-    return singleLine(trimmedEnd(text), mFont)->lineAt(0).naturalTextWidth();
+    return singleLine(trimmedEnd(text), font_)->lineAt(0).naturalTextWidth();
 }
 
 void FittedText::fitSingle(const QString& text) {
     useScale(1);
-    mLines = {text};
+    lines_ = {text};
     const double room = usableWidth() + tolerance;
     double width = widthOf(text);
     if (width <= room)
         return;
-    mWidthScale = std::max(leastScale, usableWidth() / width);
-    if (width * mWidthScale <= room)
+    widthScale_ = std::max(leastScale, usableWidth() / width);
+    if (width * widthScale_ <= room)
         return;
-    useScale(std::max(leastSingleScale, usableWidth() / (width * mWidthScale)));
+    useScale(std::max(leastSingleScale, usableWidth() / (width * widthScale_)));
     width = widthOf(text);
     // The size is whole twips: take up what rounding left over.
-    if (width * mWidthScale > room && width * mWidthScale < usableWidth() * 1.02)
-        mWidthScale = usableWidth() / width;
-    if (width * mWidthScale > room)
+    if (width * widthScale_ > room && width * widthScale_ < usableWidth() * 1.02)
+        widthScale_ = usableWidth() / width;
+    if (width * widthScale_ > room)
         cutLastLine();
 }
 
 /// Breaks into at most `most` lines; tells whether the whole text found room.
 bool FittedText::breakLines(const QString& text, qsizetype most) {
-    mLines.clear();
+    lines_.clear();
     for (const QString& paragraph : text.split(u'\n')) {
-        if (mLines.size() == most)
+        if (lines_.size() == most)
             return false;
         if (paragraph.isEmpty()) {
-            mLines << QString();
+            lines_ << QString();
             continue;
         }
-        QTextLayout layout(paragraph, mFont);
+        QTextLayout layout(paragraph, font_);
         layout.setTextOption(optionFor(true));
         layout.beginLayout();
         for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            if (mLines.size() == most)
+            if (lines_.size() == most)
                 return false;
             line.setLineWidth(usableWidth());
-            mLines << paragraph.mid(line.textStart(), line.textLength());
+            lines_ << paragraph.mid(line.textStart(), line.textLength());
         }
         layout.endLayout();
     }
@@ -158,15 +158,15 @@ bool FittedText::breakLines(const QString& text, qsizetype most) {
 }
 
 void FittedText::fitWrapped(const QString& text) {
-    const double leastWrapped = std::min(leastScale, leastPoints / mElement.font.points);
-    const double smallest = mElement.font.points * twipsPerPoint * leastWrapped;
+    const double leastWrapped = std::min(leastScale, leastPoints / element_.font.points);
+    const double smallest = element_.font.points * twipsPerPoint * leastWrapped;
     const double linesAtMost = usableHeight() / smallest + 1;
     const auto worthShaping = qsizetype(linesAtMost * (usableWidth() / (smallest * narrowestLetter) + 1));
     const QString beginning = text.left(worthShaping);
     const int steps = int(std::floor((1 - leastWrapped) / scaleStep + 1e-6));
     for (int step = 0; step <= steps; ++step) {
         useScale(1 - step * scaleStep);
-        const auto most = std::max<qsizetype>(1, qsizetype((usableHeight() + tolerance) / mLineHeight));
+        const auto most = std::max<qsizetype>(1, qsizetype((usableHeight() + tolerance) / lineHeight_));
         if (breakLines(beginning, most) && beginning.size() == text.size())
             return;
     }
@@ -174,60 +174,60 @@ void FittedText::fitWrapped(const QString& text) {
 }
 
 void FittedText::cutLastLine() {
-    mCut = true;
-    QString line = trimmedEnd(mLines.back());
-    const double room = usableWidth() / mWidthScale + tolerance;
+    cut_ = true;
+    QString line = trimmedEnd(lines_.back());
+    const double room = usableWidth() / widthScale_ + tolerance;
     while (!line.isEmpty() && widthOf(withEllipsis(line)) > room) {
         const qsizetype blank = line.lastIndexOf(u' ');
         // Whole words go first; a line of one word loses letters, never half a surrogate pair.
-        line.truncate(blank > 0 && mElement.wordWrap ? blank
+        line.truncate(blank > 0 && element_.wordWrap ? blank
                                                      : line.size() - (line.back().isLowSurrogate() ? 2 : 1));
         line = trimmedEnd(line);
     }
-    mLines.back() = withEllipsis(line);
+    lines_.back() = withEllipsis(line);
 }
 
 void FittedText::place() {
     double top = 0;
-    const double block = mLineHeight * double(mLines.size());
-    if (mElement.alignment & Qt::AlignVCenter)
-        top = (mElement.height - block) / 2;
-    else if (mElement.alignment & Qt::AlignBottom)
-        top = mElement.height - block;
+    const double block = lineHeight_ * double(lines_.size());
+    if (element_.alignment & Qt::AlignVCenter)
+        top = (element_.height - block) / 2;
+    else if (element_.alignment & Qt::AlignBottom)
+        top = element_.height - block;
 
-    mPlaced.reserve(std::size_t(mLines.size()));
-    for (const QString& text : std::as_const(mLines)) {
+    placed_.reserve(std::size_t(lines_.size()));
+    for (const QString& text : std::as_const(lines_)) {
         Line line;
-        line.layout = singleLine(trimmedEnd(text), mFont);
+        line.layout = singleLine(trimmedEnd(text), font_);
         line.width = line.layout->lineAt(0).naturalTextWidth();
-        const double spare = usableWidth() - line.width * mWidthScale;
+        const double spare = usableWidth() - line.width * widthScale_;
         double left = 0;
-        if (mElement.alignment & Qt::AlignRight)
+        if (element_.alignment & Qt::AlignRight)
             left = spare;
-        else if (mElement.alignment & Qt::AlignHCenter)
+        else if (element_.alignment & Qt::AlignHCenter)
             left = spare / 2;
         line.at = {left, top};
-        top += mLineHeight;
-        mPlaced.push_back(std::move(line));
+        top += lineHeight_;
+        placed_.push_back(std::move(line));
     }
 }
 
 QRectF FittedText::bounds() const {
     QRectF all;
-    for (const Line& line : mPlaced)
-        all |= QRectF(mElement.left + line.at.x(), mElement.top + line.at.y(), line.width * mWidthScale,
-                      mLineHeight);
+    for (const Line& line : placed_)
+        all |= QRectF(element_.left + line.at.x(), element_.top + line.at.y(), line.width * widthScale_,
+                      lineHeight_);
     return all;
 }
 
 void FittedText::paint(QPainter& painter, QPointF origin) const {
-    painter.setPen(mElement.colour);
-    for (const Line& line : mPlaced) {
+    painter.setPen(element_.colour);
+    for (const Line& line : placed_) {
         if (line.width <= 0)
             continue;
         painter.save();
         painter.translate(origin + line.at);
-        painter.scale(mWidthScale, 1);
+        painter.scale(widthScale_, 1);
         line.layout->draw(&painter, {0, 0});
         painter.restore();
     }

@@ -26,12 +26,12 @@ public:
     explicit FittedText(const Element& element);
 
     /// The lines as they show.
-    QStringList lines() const { return mLines; }
+    QStringList lines() const { return lines_; }
     /// The smallest upright rectangle around all lines, on the surface, in twips.
     QRectF bounds() const;
-    double sizeScale() const { return mSizeScale; }
-    double widthScale() const { return mWidthScale; }
-    bool isCut() const { return mCut; }
+    double sizeScale() const { return sizeScale_; }
+    double widthScale() const { return widthScale_; }
+    bool isCut() const { return cut_; }
 
     /// Paints with the upper left corner of the box at `origin`.
     void paint(QPainter& painter, QPointF origin) const;
@@ -53,14 +53,14 @@ private:
     double usableHeight() const;
     double widthOf(const QString& text) const;
 
-    const Element& mElement;
-    QFont mFont;
-    double mLineHeight = 0;
-    double mSizeScale = 1;
-    double mWidthScale = 1;
-    bool mCut = false;
-    QStringList mLines;
-    std::vector<Line> mPlaced;
+    const Element& element_;
+    QFont font_;
+    double lineHeight_ = 0;
+    double sizeScale_ = 1;
+    double widthScale_ = 1;
+    bool cut_ = false;
+    QStringList lines_;
+    std::vector<Line> placed_;
 };
 
 } // namespace sheet

@@ -5,7 +5,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -43,14 +42,8 @@ void Foglio::paintEvent(QPaintEvent* event) {
 }
 
 bool Foglio::reagisce(const QPointF& pixel) const {
-    const QPointF point = pixel * sheet::twipsPerPixel;
-    const auto& elements = surface_.elements();
-    // Frames and rules are drawn on the paper and do not take the mouse.
-    const auto top = std::find_if(elements.rbegin(), elements.rend(), [&](const sheet::Element& element) {
-        return element.visible && element.kind != sheet::Kind::Frame && element.kind != sheet::Kind::Rule &&
-               element.rect().contains(point);
-    });
-    return top == elements.rend() || sensibili_.contains(top->name);
+    const sheet::Element* top = surface_.elementAt(pixel * sheet::twipsPerPixel);
+    return top == nullptr || sensibili_.contains(top->name);
 }
 
 void Foglio::mousePressEvent(QMouseEvent* event) {

@@ -79,34 +79,34 @@ Picture Picture::fromFile(const QString& path, QSizeF box) {
         reader.setScaledSize(target);
     }
     Picture picture;
-    picture.mData = std::make_shared<Data>();
-    picture.mData->master = read(reader, path);
+    picture.data_ = std::make_shared<Data>();
+    picture.data_->master = read(reader, path);
     return picture;
 }
 
 Picture Picture::drawn(std::function<QImage(QSize)> draw) {
     Picture picture;
-    picture.mData = std::make_shared<Data>();
-    picture.mData->draw = std::move(draw);
+    picture.data_ = std::make_shared<Data>();
+    picture.data_->draw = std::move(draw);
     return picture;
 }
 
 qsizetype Picture::bytes() const {
-    return mData ? mData->master.sizeInBytes() + mData->latest.sizeInBytes() : 0;
+    return data_ ? data_->master.sizeInBytes() + data_->latest.sizeInBytes() : 0;
 }
 
 QImage Picture::stretchedTo(QSize pixels) const {
-    if (!mData || pixels.isEmpty())
+    if (!data_ || pixels.isEmpty())
         return {};
-    if (mData->latest.size() == pixels)
-        return mData->latest;
-    if (mData->master.size() == pixels)
-        return mData->master;
-    QImage scaled = mData->draw
-                        ? mData->draw(pixels)
-                        : mData->master.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (data_->latest.size() == pixels)
+        return data_->latest;
+    if (data_->master.size() == pixels)
+        return data_->master;
+    QImage scaled = data_->draw
+                        ? data_->draw(pixels)
+                        : data_->master.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (scaled.sizeInBytes() <= bytesKeptScaled)
-        mData->latest = scaled;
+        data_->latest = scaled;
     return scaled;
 }
 

@@ -27,7 +27,7 @@ public:
     /// The picture's own size in pixels, from its header. Raises as fromFile.
     static QSize ownSize(const QString& path);
 
-    bool isNull() const { return !mData; }
+    bool isNull() const { return !data_; }
 
     /// Memory its pixels take.
     qsizetype bytes() const;
@@ -37,7 +37,7 @@ public:
 
 private:
     struct Data;
-    std::shared_ptr<Data> mData;
+    std::shared_ptr<Data> data_;
 };
 
 /// What the program reports for a file that is no picture.

@@ -12,7 +12,7 @@ constexpr qsizetype kilobytesKept = 24576;
 
 } // namespace
 
-PictureCache::PictureCache() : mKept(kilobytesKept) {}
+PictureCache::PictureCache() : kept_(kilobytesKept) {}
 
 Picture PictureCache::load(const QString& path, QSizeF box) {
     const QFileInfo file(path);
@@ -22,10 +22,10 @@ Picture PictureCache::load(const QString& path, QSizeF box) {
                             .arg(file.lastModified().toMSecsSinceEpoch())
                             .arg(box.width())
                             .arg(box.height());
-    if (const Picture* known = mKept.object(key))
+    if (const Picture* known = kept_.object(key))
         return *known;
     Picture picture = Picture::fromFile(path, box);
-    mKept.insert(key, new Picture(picture), picture.bytes() / 1024 + 1);
+    kept_.insert(key, new Picture(picture), picture.bytes() / 1024 + 1);
     return picture;
 }
 

@@ -16,7 +16,7 @@ public:
     Picture load(const QString& path, QSizeF box);
 
 private:
-    QCache<QString, Picture> mKept; ///< Cost in kilobytes.
+    QCache<QString, Picture> kept_; ///< Cost in kilobytes.
 };
 
 } // namespace sheet

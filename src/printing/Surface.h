@@ -27,16 +27,17 @@ public:
     /// Adds an element on top. Raises InvalidPropertyValue when its name and index are taken.
     Element& add(Element element);
 
-    bool has(const QString& name, int index = 0) const { return mPlaces.contains({name, index}); }
+    bool has(const QString& name, int index = 0) const { return places_.contains({name, index}); }
 
     /// Raises SubscriptOutOfRange when there is no such element.
     Element& element(const QString& name, int index = 0);
     const Element& element(const QString& name, int index = 0) const;
 
     /// In stacking order, the lowest first.
-    const std::vector<Element>& elements() const { return mElements; }
+    const std::vector<Element>& elements() const { return elements_; }
 
-    /// The topmost visible element at a point in twips, nullptr on bare paper. Frames and rules count too.
+    /// The topmost visible element at a point in twips, nullptr on bare paper. Frames and rules are drawn on
+    /// the paper and count as such.
     const Element* elementAt(QPointF point) const;
 
     /// Loads a picture file into an element, for the element's box. Raises as Picture::fromFile; the element
@@ -47,10 +48,10 @@ public:
     QSize pixels() const;
 
 private:
-    std::vector<Element> mElements;
-    QHash<std::pair<QString, int>, std::size_t> mPlaces;
+    std::vector<Element> elements_;
+    QHash<std::pair<QString, int>, std::size_t> places_;
 
-    std::shared_ptr<PictureCache> mPictures = std::make_shared<PictureCache>();
+    std::shared_ptr<PictureCache> pictures_ = std::make_shared<PictureCache>();
 
     std::size_t placeOf(const QString& name, int index) const;
 };

@@ -33,13 +33,13 @@ void pages::createPages(std::int32_t id) {
 }
 
 void pages::OpenCanvas() {
-    mWindow.canvas().element(QStringLiteral("info")).text = QStringLiteral("Printed with: ") + host::title();
+    window_.canvas().element(QStringLiteral("info")).text = QStringLiteral("Printed with: ") + host::title();
 }
 
 void pages::PreviewPage(std::int16_t numero) {
-    pages_.Item(numero)->setCanvas(mWindow);
+    pages_.Item(numero)->setCanvas(window_);
     currentPage = numero;
     const QString text = QStringLiteral("Pagina %1/%2").arg(numero).arg(pages_.Count());
-    mWindow.setFirstPanel(text);
-    mWindow.canvas().element(QStringLiteral("piepagina")).text = text;
+    window_.setFirstPanel(text);
+    window_.canvas().element(QStringLiteral("piepagina")).text = text;
 }

@@ -10,7 +10,7 @@
 class pages {
 public:
     /// `window` must outlive this object.
-    explicit pages(sheet::PreviewWindow& window) : mWindow(window) {}
+    explicit pages(sheet::PreviewWindow& window) : window_(window) {}
 
     std::int16_t currentPage = 0; ///< The sheet on show, from 1; 0 before the first PreviewPage.
     std::int32_t id_scheda = 0;
@@ -28,5 +28,5 @@ public:
     void PreviewPage(std::int16_t numero);
 
 private:
-    sheet::PreviewWindow& mWindow;
+    sheet::PreviewWindow& window_;
 };
