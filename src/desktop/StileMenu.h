@@ -33,7 +33,6 @@ public:
 
     /// The menu gets a side bar; contents margins make room for it.
     void aggiungiLato(QMenu& menu, const QColor& tinta, const Disegno& figura);
-    void dimentica() { lati_.clear(); }
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;

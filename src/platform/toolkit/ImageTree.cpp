@@ -39,13 +39,6 @@ void ImageTree::setImageList(const ImageList* images) {
     scheduleDelayedItemsLayout();
 }
 
-void ImageTree::setTextBelow(bool below) {
-    below_ = below;
-    static_cast<ImageTreeDelegate*>(itemDelegate())->setTextBelow(below);
-    setIndentation(below ? 0 : 14);
-    scheduleDelayedItemsLayout();
-}
-
 void ImageTree::addNode(const QString& key, const QString& text, const QString& image,
                         const QString& parent) {
     if (byKey_.contains(key)) {

@@ -17,8 +17,6 @@ public:
 
     /// The pictures; the list must outlive the tree or be replaced.
     void setImageList(const ImageList* images);
-    /// The text stands under the picture instead of beside it.
-    void setTextBelow(bool below);
 
     /// Adds a node behind its siblings; no `parent` makes it a root. Raises runtime::ElementNotFound for an
     /// unknown parent or image and 35602 for a key there already.
@@ -71,7 +69,6 @@ private:
     std::vector<QTreeWidgetItem*> nodes_;
     std::vector<QString> keys_; ///< of nodes_
     QHash<QString, QTreeWidgetItem*> byKey_;
-    bool below_ = false;
 };
 
 } // namespace toolkit

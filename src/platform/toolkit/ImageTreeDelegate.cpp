@@ -24,23 +24,16 @@ void ImageTreeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     QRect textPlace = item.rect.adjusted(gap, 0, -gap, 0);
     if (images_ != nullptr && images_->contains(key)) {
         const QSize size = images_->imageSize();
-        QRect place(
-            QPoint(item.rect.left() + gap, item.rect.top() + (item.rect.height() - size.height()) / 2), size);
-        if (below_) {
-            place.moveTopLeft(
-                {item.rect.left() + (item.rect.width() - size.width()) / 2, item.rect.top() + gap});
-            textPlace.setTop(place.bottom() + 1);
-        } else {
-            textPlace.setLeft(place.right() + 1 + gap);
-        }
-        painter->drawPixmap(place.topLeft(), images_->pixmap(key));
+        const QPoint corner(item.rect.left() + gap,
+                            item.rect.top() + (item.rect.height() - size.height()) / 2);
+        textPlace.setLeft(corner.x() + size.width() + gap);
+        painter->drawPixmap(corner, images_->pixmap(key));
     }
     const bool selected = item.state & QStyle::State_Selected;
     painter->setPen(item.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
     painter->setFont(item.font);
     const QString text = item.fontMetrics.elidedText(item.text, Qt::ElideRight, textPlace.width());
-    painter->drawText(
-        textPlace, (below_ ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine, text);
+    painter->drawText(textPlace, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
 }
 
 QSize ImageTreeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -50,9 +43,6 @@ QSize ImageTreeDelegate::sizeHint(const QStyleOptionViewItem& option, const QMod
         return {textWidth, line};
     }
     const QSize size = images_->imageSize();
-    if (below_) {
-        return {std::max(size.width() + 2 * gap, textWidth), size.height() + gap + line};
-    }
     return {size.width() + 2 * gap + textWidth, std::max(size.height() + 2, line)};
 }
 

@@ -18,7 +18,6 @@ public:
     explicit ImageTreeDelegate(QTreeWidget& tree);
 
     void setImageList(const ImageList* images) { images_ = images; }
-    void setTextBelow(bool below) { below_ = below; }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -26,7 +25,6 @@ public:
 
 private:
     const ImageList* images_ = nullptr;
-    bool below_ = false;
 };
 
 } // namespace toolkit
