@@ -172,6 +172,12 @@ void ImageTree::mousePressEvent(QMouseEvent* event) {
     QTreeWidget::mousePressEvent(event);
 }
 
+QItemSelectionModel::SelectionFlags ImageTree::selectionCommand(const QModelIndex& index,
+                                                                const QEvent* event) const {
+    const auto command = QTreeWidget::selectionCommand(index, event);
+    return command & QItemSelectionModel::Deselect ? QItemSelectionModel::NoUpdate : command;
+}
+
 void ImageTree::keyPressEvent(QKeyEvent* event) {
     const QString before = selectedKey();
     QTreeWidget::keyPressEvent(event);

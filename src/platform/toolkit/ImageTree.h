@@ -59,6 +59,9 @@ Q_SIGNALS:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    /// The selected node stays selected: Ctrl with a click or Space takes nothing away.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void startDrag(Qt::DropActions actions) override;
 
 private:

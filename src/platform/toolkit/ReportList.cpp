@@ -158,6 +158,12 @@ void ReportList::keyPressEvent(QKeyEvent* event) {
     QTreeView::keyPressEvent(event);
 }
 
+QItemSelectionModel::SelectionFlags ReportList::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const {
+    const auto command = QTreeView::selectionCommand(index, event);
+    return command & QItemSelectionModel::Deselect ? QItemSelectionModel::NoUpdate : command;
+}
+
 ReportList::Refill::Refill(ReportList& list) : list_(list) {
     list_.beginRefill();
 }

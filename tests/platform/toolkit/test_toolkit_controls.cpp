@@ -326,6 +326,8 @@ private Q_SLOTS:
         QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, node.center());
         QCOMPARE(pressed, QString("k2"));
         QCOMPARE(clicks.count(), 1);
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::ControlModifier, node.center());
+        QCOMPARE(tree->selectedKey(), QString("k2"));
         const std::unique_ptr<QMimeData> data(tree->dragData());
         QCOMPARE(data->text(), QString("17"));
         QVERIFY(!(tree->topLevelItem(1)->flags() & Qt::ItemIsEditable));
