@@ -21,12 +21,11 @@ bool contaAvvio() {
     QString valore = QStringLiteral("1");
     if (archivio.DCount(QStringLiteral("parametro"), QStringLiteral("Parametri"),
                         QStringLiteral("parametro = '") + parametro + QLatin1Char('\'')) > 0) {
-        const qint16 n =
-            runtime::add16(runtime::toInt16(runtime::leadingNumber(archivio.Load_Param(parametro))), 1);
+        const double n = runtime::leadingNumber(archivio.Load_Param(parametro)) + 1; // of any size
         if (n > offerte) {
             return false;
         }
-        valore = QString::number(n);
+        valore = runtime::numberText(n);
     }
     archivio.Save_Param(parametro, valore);
     return true;
