@@ -84,8 +84,8 @@ void frmPersonalizza::onLoad() {
     ridimensionatore = std::make_unique<RidimensionatoreImmagini>();
     ridimensionatore->setImage(logo);
     palestra_ = std::make_unique<palestra>();
-    palestra_->carica();
     const toolkit::Hourglass attesa;
+    palestra_->carica();
     nome.setText(palestra_->nome);
     responsabile.setText(palestra_->responsabile);
     if (!palestra_->logo.isEmpty()) {
@@ -115,15 +115,11 @@ void frmPersonalizza::cmdApriIMG_Click() {
     if (scelto.isEmpty()) {
         return;
     }
-    QString motivo;
     try {
         const toolkit::Hourglass attesa;
         mostraLogo(copiaLogo(scelto));
     } catch (const runtime::Error& errore) {
-        motivo = errore.description();
-    }
-    if (!motivo.isEmpty()) {
-        host::message(motivo + u"\n\nIl logo non è stato cambiato."_s, host::Icon::Critical);
+        host::message(errore.description() + u"\n\nIl logo non è stato cambiato."_s, host::Icon::Critical);
     }
 }
 

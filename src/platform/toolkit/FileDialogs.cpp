@@ -2,6 +2,7 @@
 
 #include "platform/host/Application.h"
 #include "platform/runtime/Error.h"
+#include "platform/toolkit/Hourglass.h"
 #include "platform/toolkit/PictureFile.h"
 
 #include <QApplication>
@@ -72,6 +73,7 @@ QString FileDialogs::openFile(const QString& filter, const QString& folder) {
     }
     const QString start = folder.isEmpty() ? lastFolder_ : folder;
     dialog.setDirectory(start.isEmpty() ? QDir::homePath() : start);
+    const Hourglass::Pause pause;
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }

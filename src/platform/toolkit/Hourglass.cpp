@@ -13,4 +13,16 @@ Hourglass::~Hourglass() {
     QGuiApplication::restoreOverrideCursor();
 }
 
+Hourglass::Pause::Pause() {
+    for (; QGuiApplication::overrideCursor() != nullptr; ++paused_) {
+        QGuiApplication::restoreOverrideCursor();
+    }
+}
+
+Hourglass::Pause::~Pause() {
+    for (; paused_ > 0; --paused_) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+}
+
 } // namespace toolkit

@@ -9,6 +9,18 @@ public:
     ~Hourglass();
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
+
+    /// Gives the ordinary pointer back while a box or a dialog waits for the user.
+    class Pause {
+    public:
+        Pause();
+        ~Pause();
+        Pause(const Pause&) = delete;
+        Pause& operator=(const Pause&) = delete;
+
+    private:
+        int paused_ = 0; ///< hourglasses to come back
+    };
 };
 
 } // namespace toolkit

@@ -1,6 +1,7 @@
 #include "platform/toolkit/MessageBoxes.h"
 
 #include "platform/host/Application.h"
+#include "platform/toolkit/Hourglass.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -29,6 +30,7 @@ QMessageBox::Icon picture(host::Icon icon) {
 } // namespace
 
 host::Answer MessageBoxes::show(host::Icon icon, const QString& text, host::Buttons buttons) {
+    const Hourglass::Pause pause;
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName(QStringLiteral("messageBox"));
     box.setWindowTitle(host::title());

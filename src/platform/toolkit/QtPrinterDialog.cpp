@@ -1,6 +1,7 @@
 #include "platform/toolkit/QtPrinterDialog.h"
 
 #include "platform/host/Application.h"
+#include "platform/toolkit/Hourglass.h"
 
 #include <QApplication>
 #include <QDir>
@@ -54,6 +55,7 @@ bool QtPrinterDialog::choose(QPrinter& printer, PrintRange& range) {
             }
         }
     });
+    const Hourglass::Pause pause;
     if (dialog.exec() != QDialog::Accepted) {
         return false;
     }

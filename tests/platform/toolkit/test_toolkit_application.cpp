@@ -2,6 +2,7 @@
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/FileDialogs.h"
 #include "platform/toolkit/Form.h"
+#include "platform/toolkit/Hourglass.h"
 #include "platform/toolkit/MessageBoxes.h"
 #include "platform/toolkit/Twips.h"
 #include "support/ToolkitTest.h"
@@ -104,9 +105,12 @@ private Q_SLOTS:
         QFETCH(QString, press);
         QFETCH(int, answer);
         QString title;
+        bool hourglass = true;
+        const toolkit::Hourglass working;
         QTimer::singleShot(0, this, [&] {
             QMessageBox* box = openBox();
             title = box->windowTitle();
+            hourglass = QGuiApplication::overrideCursor() != nullptr;
             if (press.isEmpty()) {
                 QTest::keyClick(box, Qt::Key_Escape);
                 return;
@@ -121,6 +125,7 @@ private Q_SLOTS:
             toolkit::MessageBoxes().show(host::Icon::Question, "Confermi?", host::Buttons(buttons));
         QCOMPARE(int(given), answer);
         QCOMPARE(title, host::title());
+        QVERIFY(!hourglass && QGuiApplication::overrideCursor() != nullptr); // back when it has been answered
     }
 
     void italianEverywhere() {
