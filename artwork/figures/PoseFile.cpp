@@ -130,6 +130,7 @@ void PoseFile::statement(const Words& words) {
             throw PoseError("a platform is \"column\" or \"low\"");
         }
         pose_.column = words[1] == "column";
+        end(words, 2);
     } else if (what == "forbidden") {
         pose_.forbidden = true;
         end(words, 1);
@@ -137,6 +138,7 @@ void PoseFile::statement(const Words& words) {
         accessory(words);
     } else if (what == "without") {
         std::erase_if(pose_.accessories, [&](const Accessory& a) { return a.kind == word(words, 1); });
+        end(words, 2);
     } else if (what == "arrow") {
         Arrow a;
         a.point = word(words, 1);
@@ -220,8 +222,10 @@ bool PoseFile::bodyStatement(const Words& words) {
     } else if (what == "rest") {
         if (word(words, 1) == "none") {
             b.rests.clear();
+            end(words, 2);
         } else {
             b.rests.emplace_back(words[1], word(words, 2));
+            end(words, 3);
         }
     } else {
         return false;
@@ -252,6 +256,7 @@ void PoseFile::sidedStatement(const std::string& what, const std::string& sides,
         } else if (what == "knee") {
             leg.hasPole = true;
             leg.pole = vector(words, 1);
+            end(words, 4);
         } else if (what == "hand") {
             hand(arm, words);
         } else if (what == "arm") {
@@ -262,9 +267,11 @@ void PoseFile::sidedStatement(const std::string& what, const std::string& sides,
         } else if (what == "elbow") {
             arm.hasElbow = true;
             arm.elbowTo = vector(words, 1);
+            end(words, 4);
         } else if (what == "palm") {
             arm.hasPalm = true;
             arm.palmTo = vector(words, 1);
+            end(words, 4);
         } else if (what == "fingers") {
             static const std::map<std::string, ArmPose::Shape> shapes = {{"relaxed", ArmPose::Relaxed},
                                                                          {"open", ArmPose::Open},
@@ -275,6 +282,7 @@ void PoseFile::sidedStatement(const std::string& what, const std::string& sides,
                 throw PoseError("fingers are relaxed, open, grip or auto");
             }
             arm.shape = shape->second;
+            end(words, 2);
         } else {
             throw PoseError("unknown statement \"" + words[0] + "\"");
         }

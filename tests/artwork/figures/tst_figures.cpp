@@ -72,6 +72,7 @@ void FiguresTest::refuses_data() {
     row("leans into the column", "facing 0\npelvis 30 0 108\ntilt 30\nfoot.both plate 30 11", "column");
     row("beside the plate", "foot.both plate 46 11", "beside the plate");
     row("leaves the frame", "with mat x -400", "leaves the frame");
+    row("a word too many", "knee.left 1 0 0 4", "\"4\" is too much");
     row("strap too short", "with straps y 8\npelvis -16 0 70\ntilt 60\narm.both elev 40 plane 0",
         "strap would be");
     row("unknown statement", "jump 3", "pose:4: unknown statement");
