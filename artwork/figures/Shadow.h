@@ -7,7 +7,8 @@ namespace figures {
 /// The soft shadow that bodies and things throw on a level plane, as a grid of darkness.
 class Shadow {
 public:
-    /// Samples the square of `half` cm round `middle` at height `z`, a value every `step` cm.
+    /// Samples the rectangle of half sides `halfX` and `halfY` cm round `middle` at height `z`, a value every
+    /// `step` cm.
     Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, float halfX, float halfY, float z,
            float step);
 

@@ -15,7 +15,7 @@
 /// everywhere else.
 class BodyRelief {
 public:
-    /// `size` is the picture's in pixels, `toPixels` maps twips to them.
+    /// `size` is the picture's, in pixels.
     BodyRelief(const BodyPlan& plan, QSize size, double pixelsPerTwip);
 
     /// The picture with the group `code` marked, or the neutral one if `code` is empty.

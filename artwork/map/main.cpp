@@ -1,6 +1,7 @@
-// Draws the muscle map: quiverdeck-draw-map <plan of the bodies> <folder to write> [--areas <picture to
-// write>] Writes corpo.JPG and Corpo_<code>.JPG; with --areas instead one picture for the eye: every group
-// marked in turn, with its hot areas drawn over it.
+// Draws the muscle map: quiverdeck-draw-map <plan> <folder> [--areas <picture>]
+//
+// Writes corpo.JPG and Corpo_<code>.JPG into the folder; with --areas instead one picture for the eye: every
+// group marked in turn, with its hot areas drawn over it.
 #include "BodyPlan.h"
 #include "BodyRelief.h"
 #include "ContactSheet.h"
