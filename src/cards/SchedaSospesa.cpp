@@ -2,6 +2,7 @@
 
 #include "cards/scheda.h"
 #include "core/db.h"
+#include "platform/runtime/Dates.h"
 #include "templates/SchedaModello.h"
 
 #include <QJsonArray>
@@ -18,7 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int massimoRighe = 32767; // the loop counters' 16 bits
+constexpr int massimoRighe = 32767;    // the loop counters' 16 bits
+constexpr qsizetype vociDeiGiorni = 9; // of the header's list of training days
 
 // Each record's fields are named once, for both ways.
 
@@ -161,6 +163,23 @@ bool leggiPagina(const QJsonValue& valore, std::optional<PaginaEsercizi>& pagina
     return bene;
 }
 
+/// Whether the page stands in a list of `righe` lines, or on the screen that scrolling would add behind it.
+bool staNellElenco(const PaginaEsercizi& pagina, std::size_t righe) {
+    const std::size_t schermata = pagina.righe.size();
+    return schermata > 0 && (static_cast<std::size_t>(pagina.posizione) - 1) * schermata <= righe &&
+           static_cast<std::size_t>(pagina.massimo) * schermata < righe + 2 * schermata;
+}
+
+/// The header page raises at a period that is no date and at a tick behind its list.
+bool siPuoMostrare(const SchedaApribile& s) {
+    const auto* carta = dynamic_cast<const ::scheda*>(&s);
+    const auto data = [](const QString& testo) {
+        return testo.isEmpty() || runtime::parseDate(testo, runtime::DateOrder::DayFirst);
+    };
+    return carta == nullptr || (data(carta->PeriodoDal) && data(carta->PeriodoAl) &&
+                                carta->GGAllen.indexOf(u'1', vociDeiGiorni) < 0);
+}
+
 bool esiste(const QString& tabella, const QString& colonna, qint32 chiave) {
     const QString sql = u"SELECT %1 FROM %2 WHERE %1 = %3"_s.arg(colonna, tabella).arg(chiave);
     return !db::comune().getRs(sql).EOF_();
@@ -242,7 +261,8 @@ std::optional<SchedaSospesa> SchedaSospesa::leggi(const QByteArray& file) {
            leggiRighe(tutto.value("eliminati"_L1), s.eliminati) && tutto.contains("pagina"_L1) &&
            leggiPagina(tutto.value("pagina"_L1), s.pagina);
     // A card has its athlete, a template none; the page stands inside of the list.
-    bene = bene && (s.idUtenteSelezionato == 0) == isModello;
+    bene = bene && (s.idUtenteSelezionato == 0) == isModello && siPuoMostrare(*s.scheda) &&
+           (!s.pagina || staNellElenco(*s.pagina, righe.size()));
     if (!bene)
         return {};
     for (Esercizio& riga : righe)
