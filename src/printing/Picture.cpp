@@ -16,8 +16,8 @@ constexpr double finestRatio = 4;
 /// A scaled copy up to this size (a screen's) is kept with its picture; the printer's are made and dropped.
 constexpr qsizetype bytesKeptScaled = 524'288;
 
-/// A picture that no box of ours could need in full is refused above this many pixels if its format
-/// cannot be decoded scaled (GIF, BMP): 100 megapixels.
+/// A picture that no box of ours could need in full is refused above this many pixels, 100 megapixels: GIF
+/// and BMP are decoded whole, and a progressive JPEG takes six bytes for each pixel that its head claims.
 constexpr qint64 mostPixels = 100'000'000;
 
 [[noreturn]] void refuse(const QString& path, const QString& reason) {
@@ -35,7 +35,7 @@ QSize open(QImageReader& reader, const QString& path) {
     QSize size = reader.size();
     if (!reader.canRead() || !size.isValid() || size.isEmpty())
         refuse(path, reader.errorString());
-    if (qint64(size.width()) * size.height() > mostPixels && reader.format() != "jpeg")
+    if (qint64(size.width()) * size.height() > mostPixels)
         refuse(path, QStringLiteral("troppo grande"));
     if (reader.transformation() & QImageIOHandler::TransformationRotate90)
         size.transpose();

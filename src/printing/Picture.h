@@ -18,7 +18,7 @@ public:
 
     /// Reads a JPEG, BMP, GIF or PNG file for a box of `box` twips. It is decoded scaled, so that a huge one
     /// costs little memory. Raises FileNotFound for a missing file and InvalidPicture for one that cannot be
-    /// read.
+    /// read or has more than 100 megapixels.
     static Picture fromFile(const QString& path, QSizeF box);
 
     /// A picture drawn anew at each size in pixels, such as a vector logo: sharp at any resolution.
