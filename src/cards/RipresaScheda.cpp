@@ -1,10 +1,10 @@
 #include "cards/RipresaScheda.h"
 
 #include "athletes/utente.h"
-#include "cards/FinestreCollegate.h"
 #include "cards/SchedaApribile.h"
 #include "cards/SchedaCorpo.h"
 #include "cards/mdiScheda.h"
+#include "core/Finestre.h"
 #include "core/variabiliGlobali.h"
 #include "platform/host/Services.h"
 #include "platform/runtime/Error.h"

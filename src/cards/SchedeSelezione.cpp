@@ -1,8 +1,8 @@
 #include "cards/SchedeSelezione.h"
 
 #include "athletes/utente.h"
-#include "cards/FinestreCollegate.h"
 #include "cards/raccoglitore.h"
+#include "core/Finestre.h"
 #include "core/ImmaginiToolbar.h"
 #include "core/variabiliGlobali.h"
 #include "platform/host/Services.h"
@@ -11,14 +11,6 @@
 #include "platform/toolkit/Twips.h"
 
 using toolkit::place;
-
-namespace {
-
-qint32 chiaveDi(const QString& testo) {
-    return runtime::toInt32(runtime::strictNumber(testo));
-}
-
-} // namespace
 
 SchedeSelezione::SchedeSelezione()
     : Form(QStringLiteral("SchedeSelezione")), Toolbar(QStringLiteral("Toolbar"), this), ImageList1({24, 24}),
@@ -100,13 +92,13 @@ void SchedeSelezione::seleziona() {
     if (LW.count() == 0) {
         return;
     }
-    variabiliGlobali::idSchedaSelezionata = chiaveDi(LW.selectedText());
+    variabiliGlobali::idSchedaSelezionata = runtime::textToInt32(LW.selectedText());
     unload();
 }
 
 void SchedeSelezione::elimina() {
     try {
-        const qint32 chiave = chiaveDi(LW.selectedText());
+        const qint32 chiave = runtime::textToInt32(LW.selectedText());
         if (host::ask(QStringLiteral("Confermi?"), host::Icon::Critical, host::Buttons::YesNo) !=
             host::Answer::Yes) {
             return;
@@ -124,7 +116,7 @@ void SchedeSelezione::elimina() {
 }
 
 void SchedeSelezione::stampa() {
-    variabiliGlobali::idSchedaSelezionata = chiaveDi(LW.selectedText());
+    variabiliGlobali::idSchedaSelezionata = runtime::textToInt32(LW.selectedText());
     setPointer(Pointer::Hourglass);
     finestre::mostraAnteprima();
     setPointer(Pointer::Default);

@@ -1,11 +1,11 @@
 #include "cards/mdiScheda.h"
 
 #include "athletes/utente.h"
-#include "cards/FinestreCollegate.h"
 #include "cards/SchedaCorpo.h"
 #include "cards/SchedaIntestazione.h"
 #include "cards/salvaComeModello.h"
 #include "cards/scheda.h"
+#include "core/Finestre.h"
 #include "core/ImmaginiToolbar.h"
 #include "core/db.h"
 #include "core/variabiliGlobali.h"
