@@ -17,10 +17,6 @@ namespace {
 
 constexpr int colonneRicerca = 2; // surname and first name
 
-qint32 chiaveDi(const QString& testo) {
-    return runtime::toInt32(runtime::strictNumber(testo));
-}
-
 } // namespace
 
 UtentiSelezione::UtentiSelezione()
@@ -116,7 +112,7 @@ void UtentiSelezione::LW_DblClick() {
 }
 
 void UtentiSelezione::selezionaUtente() {
-    variabiliGlobali::idUtenteSelezionato = chiaveDi(LW.selectedText());
+    variabiliGlobali::idUtenteSelezionato = runtime::textToInt32(LW.selectedText());
     unload();
 }
 
@@ -138,7 +134,7 @@ void UtentiSelezione::apriUtente(const QString& chiave) {
 
 void UtentiSelezione::eliminaUtente() {
     try {
-        const qint32 chiave = chiaveDi(LW.selectedText());
+        const qint32 chiave = runtime::textToInt32(LW.selectedText());
         if (host::ask(
                 QStringLiteral("Sei sicuro di cancellare l'atleta? Verranno cancellate tutte le sue schede!"),
                 host::Icon::Critical, host::Buttons::YesNo) != host::Answer::Yes) {

@@ -100,7 +100,7 @@ void SchedeMODELLOSelezione::fillList() {
 }
 
 qint32 SchedeMODELLOSelezione::selezionato() const {
-    return runtime::toInt32(runtime::strictNumber(LW.selectedText()));
+    return runtime::textToInt32(LW.selectedText());
 }
 
 void SchedeMODELLOSelezione::Toolbar_ButtonClick(const QString& key) {

@@ -106,6 +106,10 @@ double strictNumber(const QString& text) {
     return *value;
 }
 
+qint32 textToInt32(const QString& text) {
+    return toInt32(strictNumber(text));
+}
+
 std::optional<quint8> wholeByte(const QString& text) {
     const QString plain = text.trimmed();
     if (plain.isEmpty())

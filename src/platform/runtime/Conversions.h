@@ -26,6 +26,9 @@ bool isNumber(const QString& text);
 /// The number the whole text stands for; error 13 if it is none.
 double strictNumber(const QString& text);
 
+/// The same, rounded to a whole number; error 13 if it is no number, 6 outside the range.
+qint32 textToInt32(const QString& text);
+
 /// A typed whole number from 0 to 255; nothing for any other text.
 std::optional<quint8> wholeByte(const QString& text);
 
