@@ -2,13 +2,12 @@
 
 #include "desktop/Ridisegno.h"
 #include "platform/runtime/Conversions.h"
+#include "platform/toolkit/Exposure.h"
 #include "platform/toolkit/Fonts.h"
 #include "platform/toolkit/Twips.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QEventLoop>
-#include <QWindow>
 
 #include <cmath>
 
@@ -54,12 +53,7 @@ void Tool_BarProg::onLoad() {
 }
 
 void Tool_BarProg::onActivate() {
-    QElapsedTimer attesa;
-    attesa.start();
-    while (isVisible() && !windowHandle()->isExposed() && attesa.elapsed() < attesaMassima) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents,
-                                        20);
-    }
+    toolkit::waitForExposure(*this, attesaMassima);
 }
 
 void Tool_BarProg::setTitolo(const QString& s) {

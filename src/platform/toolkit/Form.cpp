@@ -2,19 +2,19 @@
 
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/ChildFrame.h"
+#include "platform/toolkit/Exposure.h"
+#include "platform/toolkit/OpenForms.h"
 #include "platform/toolkit/ParentForm.h"
 #include "platform/toolkit/Twips.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QWindow>
-#include <numeric>
 #include <utility>
 
 namespace toolkit {
@@ -24,17 +24,6 @@ namespace {
 /// How long a show waits for the window manager to map a maximised window; milliseconds.
 constexpr int mapPatience = 1000;
 
-QList<Form*>& allForms() {
-    static QList<Form*> forms;
-    return forms;
-}
-
-/// Top-level forms in the order of their last activation.
-QList<Form*>& activations() {
-    static QList<Form*> forms;
-    return forms;
-}
-
 } // namespace
 
 Form::Form(const QString& name) : client_(new QWidget(this)) {
@@ -42,12 +31,11 @@ Form::Form(const QString& name) : client_(new QWidget(this)) {
     client_->setObjectName(QStringLiteral("client"));
     setWindowFlags(Qt::Window);
     setAutoFillBackground(true); // a page must not show the frame's colour
-    allForms().append(this);
+    OpenForms::all().add(this);
 }
 
 Form::~Form() {
-    allForms().removeAll(this);
-    activations().removeAll(this);
+    OpenForms::all().remove(this);
     endModal();
 }
 
@@ -64,12 +52,6 @@ QSize Form::frameExtra() const {
         return {2 * ChildFrame::border, ChildFrame::titleHeight + ChildFrame::border};
     }
     return isVisible() ? frameGeometry().size() - size() : QSize(0, 0);
-}
-
-int Form::barsHeight() const {
-    const auto add = [](int sum, const QWidget* bar) { return sum + bar->sizeHint().height(); };
-    return std::accumulate(bottomBars_.begin(), bottomBars_.end(),
-                           std::accumulate(topBars_.begin(), topBars_.end(), 0, add), add);
 }
 
 double Form::left() const {
@@ -124,7 +106,7 @@ void Form::setInnerSize(double width, double height) {
 }
 
 void Form::resizeInner() {
-    resizeOuter(inner_ + QSize(0, barsHeight()) + frameExtra());
+    resizeOuter(inner_ + QSize(0, bars_.height()) + frameExtra());
 }
 
 void Form::resizeOuter(const QSize& pixels) {
@@ -150,7 +132,7 @@ void Form::centre() {
 
 void Form::addTopBar(QWidget* bar) {
     bar->setParent(this);
-    topBars_.append(bar);
+    bars_.addTop(bar);
     if (sized_) {
         resizeOuter(size() + frameExtra() + QSize(0, bar->sizeHint().height()));
     }
@@ -159,7 +141,7 @@ void Form::addTopBar(QWidget* bar) {
 
 void Form::addBottomBar(QWidget* bar) {
     bar->setParent(this);
-    bottomBars_.append(bar);
+    bars_.addBottom(bar);
     if (sized_) {
         resizeOuter(size() + frameExtra() + QSize(0, bar->sizeHint().height()));
     }
@@ -168,19 +150,7 @@ void Form::addBottomBar(QWidget* bar) {
 
 void Form::arrange() {
     const QSize before = client_->size();
-    int top = 0;
-    for (QWidget* bar : topBars_) {
-        const int height = bar->sizeHint().height();
-        bar->setGeometry(0, top, width(), height);
-        top += height;
-    }
-    int bottom = height();
-    for (auto bar = bottomBars_.rbegin(); bar != bottomBars_.rend(); ++bar) {
-        const int barHeight = (*bar)->sizeHint().height();
-        bottom -= barHeight;
-        (*bar)->setGeometry(0, bottom, width(), barHeight);
-    }
-    client_->setGeometry(0, top, width(), std::max(0, bottom - top));
+    client_->setGeometry(bars_.arrange(size()));
     if (client_->size() != before && state_ == State::Loaded) {
         onResize();
     }
@@ -324,12 +294,7 @@ void Form::waitForWindow() {
     if ((!maximised_ && !outerWanted_.isValid()) || QGuiApplication::platformName() != QLatin1String("xcb")) {
         return;
     }
-    QElapsedTimer patience;
-    patience.start();
-    while (isVisible() && !windowHandle()->isExposed() && patience.elapsed() < mapPatience) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents,
-                                        20);
-    }
+    waitForExposure(*this, mapPatience);
 }
 
 void Form::showModal() {
@@ -379,14 +344,12 @@ void Form::activate() {
     if (active() == this && isActiveWindow()) {
         return;
     }
-    activations().removeAll(this);
-    activations().append(this);
+    OpenForms::all().activated(this);
     onActivate();
 }
 
 void Form::leaveActivation() {
-    const bool wasLast = !activations().isEmpty() && activations().last() == this;
-    activations().removeAll(this);
+    const bool wasLast = OpenForms::all().left(this);
     Form* next = active();
     if (wasLast && next != nullptr) {
         next->activateWindow();
@@ -395,13 +358,7 @@ void Form::leaveActivation() {
 }
 
 Form* Form::active() {
-    const QList<Form*>& forms = activations();
-    for (auto form = forms.rbegin(); form != forms.rend(); ++form) {
-        if ((*form)->isVisible()) {
-            return *form;
-        }
-    }
-    return nullptr;
+    return OpenForms::all().active();
 }
 
 bool Form::unload() {
@@ -435,8 +392,7 @@ void Form::finishUnload() {
 }
 
 void Form::destroyAll() {
-    while (!allForms().isEmpty()) {
-        Form* form = allForms().last();
+    while (Form* form = OpenForms::all().newest()) {
         delete form->outer();
     }
 }

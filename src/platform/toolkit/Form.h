@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QList>
+#include "platform/toolkit/FormBars.h"
+
 #include <QPointer>
 #include <QString>
 #include <QWidget>
@@ -122,15 +123,13 @@ private:
     void waitForWindow();
     QWidget* outer() const;
     QSize frameExtra() const;
-    int barsHeight() const;
     void resizeOuter(const QSize& pixels);
     void resizeInner();
     void arrange();
 
     QWidget* client_;
     QSize inner_; ///< client()'s size in pixels as last asked for; invalid if the outer size was
-    QList<QWidget*> topBars_;
-    QList<QWidget*> bottomBars_;
+    FormBars bars_;
     QPointer<ParentForm> parentForm_;
     QPointer<ChildFrame> frame_;
     QEventLoop* loop_ = nullptr;
