@@ -79,7 +79,8 @@ void UtentiNuovo::onActivate() {
 }
 
 void UtentiNuovo::CmdSave_Click() {
-    if (txtCognome.text().isEmpty() || txtNome.text().isEmpty() ||
+    // The notes count among what must be there, as they always did.
+    if (txtCognome.text().isEmpty() || txtNome.text().isEmpty() || txtNote.text().isEmpty() ||
         runtime::dateText(txtDataNascita.value()).isEmpty()) {
         host::message(QStringLiteral("Mancano alcuni dati essenziali!"), host::Icon::Critical);
         return;
