@@ -42,10 +42,14 @@ QSize open(QImageReader& reader, const QString& path) {
     return size;
 }
 
-QImage read(QImageReader& reader, const QString& path) {
+/// Reads the picture at `wanted` pixels. A GIF's reader tells its first frame's size and may read its whole
+/// screen, which is then brought to the size told.
+QImage read(QImageReader& reader, const QString& path, QSize wanted) {
     QImage image = reader.read();
     if (image.isNull())
         refuse(path, reader.errorString());
+    if (image.size() != wanted)
+        image = image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const auto format = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
     image.convertTo(format);
     return image;
@@ -71,16 +75,14 @@ QSize Picture::ownSize(const QString& path) {
 Picture Picture::fromFile(const QString& path, QSizeF box) {
     QImageReader reader;
     const QSize own = open(reader, path);
-    const QSize finest = finestSize(box);
-    if (own.width() > finest.width() || own.height() > finest.height()) {
-        QSize target = finest.boundedTo(own);
-        if (reader.transformation() & QImageIOHandler::TransformationRotate90)
-            target.transpose();
-        reader.setScaledSize(target);
+    const QSize wanted = finestSize(box).boundedTo(own);
+    if (wanted != own) {
+        const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+        reader.setScaledSize(turned ? wanted.transposed() : wanted);
     }
     Picture picture;
     picture.data_ = std::make_shared<Data>();
-    picture.data_->master = read(reader, path);
+    picture.data_->master = read(reader, path, wanted);
     return picture;
 }
 

@@ -102,6 +102,7 @@ QList<QByteArray> fuzz::pictureSeeds() {
     }
     seeds += claiming(bmp, 18, QByteArray::fromHex("ffffff7fffffff7f"));
     seeds += claiming(bmp, 18, QByteArray::fromHex("0005000000050000"));
-    seeds += claiming(gif, 6, QByteArray::fromHex("ffffffff"));
+    for (const char* screen : {"ffffffff", "91e90100"}) // larger than the frame
+        seeds += claiming(gif, 6, QByteArray::fromHex(screen));
     return seeds;
 }
