@@ -24,8 +24,6 @@ public:
     void setCanvas(sheet::PreviewWindow& window);
 
 private:
-    friend struct PageProbe; // the tests' way in
-
     // Of the composition, not of a sheet: reset each time one is composed. Centimetres.
     inline static double margineSuperiore = 3.45; ///< Top of the first row of exercises.
     inline static double margineSinistro = 0.9;   ///< Left edge of the last row; the others keep 0.9.

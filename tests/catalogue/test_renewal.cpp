@@ -1,53 +1,36 @@
 // A store in use takes over a newer catalogue and keeps every row of its user.
-#include "CsvFile.h"
-#include "Database.h"
 #include "StoreBuilder.h"
 #include "StoreRenewal.h"
+#include "Stores.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
+using namespace Qt::StringLiterals;
 
 using catalogue::Database;
-using catalogue::Statement;
+using stores::texts;
+using stores::write;
 
 namespace {
-const QStringList usersTables{QStringLiteral("utenti"), QStringLiteral("schede"), QStringLiteral("Esercizi"),
-                              QStringLiteral("palestra"), QStringLiteral("Parametri")};
-
-void write(const QString& path, const QString& text) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(text.toUtf8());
-}
-
 QByteArray contents(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Every value of the rows that `sql` gives, with its type, in order.
-QStringList rows(Database& store, const QString& sql) {
-    QStringList result;
-    Statement statement(store, sql);
-    while (statement.next())
-        result += statement.text(0);
-    return result;
-}
-
-QString everyColumn(Database& store, const QString& table) {
-    QStringList columns;
-    Statement info(store, QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
-    while (info.next())
-        columns += QStringLiteral("quote(%1)").arg(info.text(0));
-    return columns.join(QStringLiteral("||'|'||"));
-}
-
-QStringList dump(Database& store, const QString& table, const QString& where = QStringLiteral("1")) {
-    return rows(
+/// Every value of a table's rows, with its type.
+QString dump(Database& store, const QString& table, const QString& where) {
+    const QString columns = texts(
         store,
-        QStringLiteral("SELECT %1 FROM %2 WHERE %3 ORDER BY 1").arg(everyColumn(store, table), table, where));
+        u"SELECT group_concat('quote('||name||')', '||''|''||') FROM pragma_table_info('%1')"_s.arg(table));
+    return texts(store, u"SELECT %1 FROM %2 WHERE %3 ORDER BY 1"_s.arg(columns, table, where));
+}
+
+/// What is the user's: every row of the tables of the program's own, and the templates up to a key.
+QString usersRows(const QString& path) {
+    Database store(path, Database::Mode::ReadOnly);
+    QString all;
+    for (const char* table : {"utenti", "schede", "Esercizi", "palestra", "Parametri"})
+        all += dump(store, QString::fromLatin1(table), u"1"_s) + u'\n';
+    return all + dump(store, u"schedeModello"_s, u"id_Scheda <= 3"_s) +
+           dump(store, u"EserciziModello"_s, u"ID_Scheda <= 3"_s);
 }
 } // namespace
 
@@ -57,68 +40,40 @@ class TestRenewal : public QObject {
 private Q_SLOTS:
     void init() {
         folder_ = std::make_unique<QTemporaryDir>();
-        old_ = source(QStringLiteral("old"),
-                      QStringLiteral("Q001;1;QUIVR;1;Uno;QUA,GLU\nQ002;2;QUIVR;2;Due;PET\n"
-                                     "Q009;9;QUIVR;9;Nove;TRA\n"),
-                      {QStringLiteral("Primo")});
-        fresh_ = source(QStringLiteral("fresh"),
-                        QStringLiteral("Q001;1;QUIVR;1.5;Uno;QUA,POL\nQ002;2;QUIVR;2;Due;PET\n"
-                                       "Q003;3;QUIVR;3;Tre;BIC\nG001;50;GLIDR;1;Altra;ADD\n"),
-                        {QStringLiteral("Primo"), QStringLiteral("Secondo")});
-        write(fresh_ + QStringLiteral("/categorie.csv"), QStringLiteral("id_cat;nome\n1;Base\n2;Nuova\n"));
-        store_ = folder_->filePath(QStringLiteral("splash.ps"));
-        freshStore_ = folder_->filePath(QStringLiteral("fresh.ps"));
+        old_ = source(u"old"_s,
+                      u"Q001;1;QUIVR;1;Uno;QUA,GLU\nQ002;2;QUIVR;2;Due;PET\n"
+                      "Q009;9;QUIVR;9;Nove;TRA\n"_s,
+                      {u"Primo"_s});
+        fresh_ = source(u"fresh"_s,
+                        u"Q001;1;QUIVR;1.5;Uno;QUA,POL\nQ002;2;QUIVR;2;Due;PET\n"
+                        "Q003;3;QUIVR;3;Tre;BIC\nG001;50;GLIDR;1;Altra;ADD\n"_s,
+                        {u"Primo"_s, u"Secondo"_s});
+        write(fresh_ + u"/categorie.csv"_s, u"id_cat;nome\n1;Base\n2;Nuova\n"_s);
+        store_ = folder_->filePath(u"splash.ps"_s);
+        freshStore_ = folder_->filePath(u"fresh.ps"_s);
         catalogue::buildStore({old_}, store_);
         catalogue::buildStore({fresh_}, freshStore_);
         addUserRows();
     }
 
     void theCatalogueIsRenewedAndTheUserKeepsEveryRow() {
-        QStringList before;
-        {
-            Database store(store_, Database::Mode::ReadOnly);
-            for (const QString& table : usersTables)
-                before += dump(store, table);
-            before += dump(store, QStringLiteral("schedeModello"));
-            before += dump(store, QStringLiteral("EserciziModello"));
-        }
+        const QString before = usersRows(store_);
         QVERIFY(catalogue::renewStore(freshStore_, store_));
-
+        QCOMPARE(usersRows(store_), before);
         Database store(store_, Database::Mode::ReadOnly);
-        QStringList after;
-        for (const QString& table : usersTables)
-            after += dump(store, table);
-        after += dump(store, QStringLiteral("schedeModello"), QStringLiteral("id_Scheda <= 3"));
-        after += dump(store, QStringLiteral("EserciziModello"), QStringLiteral("ID_Scheda <= 3"));
-        QCOMPARE(after, before);
-
         // The figure that no longer ships stays for the cards that hold it.
-        QCOMPARE(rows(store, QStringLiteral("SELECT id_fig||' '||numero FROM figure ORDER BY id_fig")),
-                 QStringList({QStringLiteral("1 1.5"), QStringLiteral("2 2.0"), QStringLiteral("3 3.0"),
-                              QStringLiteral("9 9.0"), QStringLiteral("50 1.0")}));
-        QCOMPARE(
-            rows(store,
-                 QStringLiteral("SELECT id_fig||id_muscolo FROM figure_muscoli ORDER BY id_fig, id_muscolo")),
-            QStringList({QStringLiteral("1POL"), QStringLiteral("1QUA"), QStringLiteral("2PET"),
-                         QStringLiteral("3BIC"), QStringLiteral("9TRA"), QStringLiteral("50ADD")}));
-        QCOMPARE(rows(store, QStringLiteral("SELECT nome FROM categorie ORDER BY id_cat")),
-                 QStringList({QStringLiteral("Base"), QStringLiteral("Nuova")}));
-        // The user's template of the same name is no supplied one; the new one stands behind it with its
-        // lines.
-        QCOMPARE(rows(store, QStringLiteral(
-                                 "SELECT descrizione||preimpostata FROM schedeModello ORDER BY id_Scheda")),
-                 QStringList({QStringLiteral("Primo1"), QStringLiteral("Mio0"), QStringLiteral("Secondo0"),
-                              QStringLiteral("Secondo1")}));
-        QCOMPARE(store.scalar(QStringLiteral("SELECT count(*) FROM EserciziModello WHERE ID_Scheda = 4")), 2);
-    }
-
-    void everyCardStillOpens() {
-        catalogue::renewStore(freshStore_, store_);
-        Database store(store_, Database::Mode::ReadOnly);
-        QCOMPARE(store.scalar(QStringLiteral("SELECT count(*) FROM vw_schedacompleta")), 2);
-        QCOMPARE(store.scalar(
-                     QStringLiteral("SELECT count(*) FROM Esercizi e JOIN figure f ON f.id_fig = e.ID_Fig")),
-                 3);
+        QCOMPARE(texts(store, u"SELECT id_fig||' '||numero FROM figure ORDER BY id_fig"_s),
+                 u"1 1.5, 2 2.0, 3 3.0, 9 9.0, 50 1.0"_s);
+        QCOMPARE(texts(store, u"SELECT id_fig||id_muscolo FROM figure_muscoli ORDER BY id_fig, id_muscolo"_s),
+                 u"1POL, 1QUA, 2PET, 3BIC, 9TRA, 50ADD"_s);
+        QCOMPARE(texts(store, u"SELECT nome FROM categorie ORDER BY id_cat"_s), u"Base, Nuova"_s);
+        // The user's template of the same name is no supplied one; the new one stands behind it.
+        QCOMPARE(texts(store, u"SELECT descrizione||preimpostata FROM schedeModello ORDER BY id_Scheda"_s),
+                 u"Primo1, Mio0, Secondo0, Secondo1"_s);
+        QCOMPARE(store.scalar(u"SELECT count(*) FROM EserciziModello WHERE ID_Scheda = 4"_s), 2);
+        // Every card still opens.
+        QCOMPARE(store.scalar(u"SELECT count(*) FROM vw_schedacompleta"_s), 2);
+        QCOMPARE(store.scalar(u"SELECT count(*) FROM Esercizi e JOIN figure f ON f.id_fig = e.ID_Fig"_s), 3);
     }
 
     void aStoreUpToDateIsLeftAsItIs() {
@@ -130,17 +85,17 @@ private Q_SLOTS:
 
     void aRefusalLeavesTheStoreUntouched_data() {
         QTest::addColumn<QString>("fault");
-        QTest::newRow("other schema") << QStringLiteral("schema");
-        QTest::newRow("no store") << QStringLiteral("text");
-        QTest::newRow("no catalogue") << QStringLiteral("missing");
-        QTest::newRow("a writer at work") << QStringLiteral("locked");
+        QTest::newRow("other schema") << u"schema"_s;
+        QTest::newRow("no store") << u"text"_s;
+        QTest::newRow("no catalogue") << u"missing"_s;
+        QTest::newRow("a writer at work") << u"locked"_s;
     }
     void aRefusalLeavesTheStoreUntouched() {
         QFETCH(QString, fault);
         if (fault == QLatin1String("schema"))
-            Database(store_, Database::Mode::Existing).execute(QStringLiteral("PRAGMA user_version = 7"));
+            Database(store_, Database::Mode::Existing).execute(u"PRAGMA user_version = 7"_s);
         else if (fault == QLatin1String("text"))
-            write(store_, QStringLiteral("no database at all, but long enough to be read as one"));
+            write(store_, u"no database at all, but long enough to be read as one"_s);
         else if (fault == QLatin1String("missing"))
             QFile::remove(freshStore_);
         const QByteArray before = contents(store_);
@@ -148,33 +103,30 @@ private Q_SLOTS:
             std::unique_ptr<Database> writer;
             if (fault == QLatin1String("locked")) {
                 writer = std::make_unique<Database>(store_, Database::Mode::Existing);
-                writer->execute(QStringLiteral("BEGIN IMMEDIATE"));
+                writer->execute(u"BEGIN IMMEDIATE"_s);
             }
             QVERIFY_THROWS_EXCEPTION(catalogue::Error, catalogue::renewStore(freshStore_, store_));
         }
         QCOMPARE(contents(store_), before);
-        QCOMPARE(QDir(folder_->path()).entryList({QStringLiteral("splash.ps?*")}), QStringList());
+        QCOMPARE(QDir(folder_->path()).entryList({u"splash.ps?*"_s}), QStringList());
     }
 
 private:
     /// A folder of sources with the real schema, muscles and machines, `figures` and one template for each
     /// name.
     QString source(const QString& name, const QString& figures, const QStringList& templates) {
-        const QString data = qEnvironmentVariable("QUIVERDECK_SOURCE") + QStringLiteral("/data/");
         QString folder = folder_->filePath(name);
-        QDir().mkpath(folder + QStringLiteral("/modelli"));
+        QDir().mkpath(folder + u"/modelli"_s);
         for (const char* file :
              {"schema.sql", "muscoli.csv", "macchinari.csv", "palestra.csv", "parametri.csv"})
-            QFile::copy(data + QLatin1String(file), folder + QLatin1Char('/') + QLatin1String(file));
-        write(folder + QStringLiteral("/categorie.csv"), QStringLiteral("id_cat;nome\n1;Base\n"));
-        write(folder + QStringLiteral("/figure.csv"),
-              QStringLiteral("codice;id_fig;ID_MAC;numero;nome;muscoli\n") + figures);
+            QFile::copy(stores::sources().filePath(QLatin1String(file)), folder + u'/' + QLatin1String(file));
+        write(folder + u"/categorie.csv"_s, u"id_cat;nome\n1;Base\n"_s);
+        write(folder + u"/figure.csv"_s, u"codice;id_fig;ID_MAC;numero;nome;muscoli\n"_s + figures);
         for (const QString& title : templates)
-            write(folder + QStringLiteral("/modelli/") + title + QStringLiteral(".csv"),
-                  QStringLiteral("categoria: Base\ndescrizione: %1\nnote: n\n\n"
-                                 "figura;durata;frequenza;ampiezza;recupero;serie;modalita;peso;note\n"
-                                 "Q001;30s;30Hz;L;0:30;2;Combinata;;\n;;;;;;;;Acqua\n")
-                      .arg(title));
+            write(folder + u"/modelli/"_s + title + u".csv"_s,
+                  u"categoria: Base\ndescrizione: %1\nnote: n\n\n"
+                  "figura;durata;frequenza;ampiezza;recupero;serie;modalita;peso;note\n"
+                  "Q001;30s;30Hz;L;0:30;2;Combinata;;\n;;;;;;;;Acqua\n"_s.arg(title));
         return folder;
     }
 
@@ -197,5 +149,5 @@ UPDATE Parametri SET valore = 'altrove' WHERE parametro = 'PATH_MANUALE';
     QString old_, fresh_, store_, freshStore_;
 };
 
-QTEST_GUILESS_MAIN(TestRenewal)
+QUIVERDECK_TEST(TestRenewal)
 #include "test_renewal.moc"

@@ -1,41 +1,28 @@
 #include "core/CopieArchivio.h"
-#include "support/ScratchProgram.h"
-#include "support/ScriptedBoxes.h"
+#include "support/RecordsTest.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTest>
 
 using host::Answer;
-using host::Icon;
 using namespace Qt::StringLiterals;
 
-class TestCopie : public QObject {
+class TestCopie : public RecordsTest {
     Q_OBJECT
 private Q_SLOTS:
     void init() {
-        program_ = std::make_unique<ScratchProgram>();
-        boxes_ = std::make_unique<ScriptedBoxes>();
-        QCOMPARE(store::Backups(program_->store(), program_->folder() + u"/backup"_s,
+        RecordsTest::init();
+        QCOMPARE(store::Backups(program().store(), program().folder() + u"/backup"_s,
                                 [] { return QDateTime(QDate(2026, 11, 22), QTime(22, 30)); })
                      .run(),
                  store::Backups::Outcome::Copied);
     }
-    void cleanup() {
-        const bool good = boxes_->satisfied();
-        boxes_.reset();
-        program_.reset(); // before the next one: its end gives the program its own folder back
-        QVERIFY(good);
-    }
 
-    void goodStoreIsLeftAlone() {
+    void goodStoreIsLeftAloneAndANewerOneRefused() {
         QVERIFY(!CopieArchivio::troppoRecente());
-        CopieArchivio().proponi();
-    }
-
-    void newerStoreIsRefused() {
-        program_->sql(u"PRAGMA user_version = 2"_s);
-        boxes_->expectBeginning(Icon::Exclamation,
+        CopieArchivio().proponi(); // and no box
+        sql(u"PRAGMA user_version = 2");
+        boxes().expectBeginning(Icon::Exclamation,
                                 u"L’archivio «splash.ps» è stato creato da una versione più recente"_s);
         QVERIFY(CopieArchivio::troppoRecente());
     }
@@ -48,30 +35,26 @@ private Q_SLOTS:
 
     void damagedStoreIsOfferedBack() {
         QFETCH(Answer, answer);
-        QVERIFY(QFile::resize(program_->store(), 5000));
-        boxes_->expectBeginning(
+        QVERIFY(QFile::resize(program().store(), 5000));
+        boxes().expectBeginning(
             Icon::Exclamation,
             u"L’archivio «splash.ps» manca o è danneggiato.\n\nLa copia di sicurezza più recente "
             "in buono stato è del 22/11/2026 alle 22:30."_s,
             answer);
         if (answer == Answer::Yes)
-            boxes_->expectBeginning(Icon::Information, u"L’archivio è di nuovo quello del 22/11/2026."_s);
+            boxes().expectBeginning(Icon::Information, u"L’archivio è di nuovo quello del 22/11/2026."_s);
         CopieArchivio().proponi();
-        QCOMPARE(store::isGood(program_->store()), answer == Answer::Yes);
-        QCOMPARE(QDir(program_->folder()).entryList({u"splash.ps.danneggiato-*"_s}).size(),
+        QCOMPARE(store::isGood(program().store()), answer == Answer::Yes);
+        QCOMPARE(QDir(program().folder()).entryList({u"splash.ps.danneggiato-*"_s}).size(),
                  answer == Answer::Yes ? 1 : 0);
     }
 
     void withoutACopyNothingIsSaid() {
-        QVERIFY(QDir(program_->folder() + u"/backup"_s).removeRecursively());
-        QFile::remove(program_->store());
+        QVERIFY(QDir(program().folder() + u"/backup"_s).removeRecursively());
+        QFile::remove(program().store());
         CopieArchivio().proponi();
     }
-
-private:
-    std::unique_ptr<ScratchProgram> program_;
-    std::unique_ptr<ScriptedBoxes> boxes_;
 };
 
-QTEST_GUILESS_MAIN(TestCopie)
+QUIVERDECK_TEST(TestCopie)
 #include "test_copie.moc"

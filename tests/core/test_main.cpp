@@ -10,8 +10,7 @@
 #include "platform/toolkit/ProgressBar.h"
 #include "support/FormPage.h"
 #include "support/Pictures.h"
-#include "support/ScriptedBoxes.h"
-#include "support/ToolkitTest.h"
+#include "support/RecordsTest.h"
 
 #include <QFile>
 
@@ -49,38 +48,32 @@ public:
 
 } // namespace
 
-class TestMain : public QObject {
+class TestMain : public RecordsTest {
     Q_OBJECT
 private Q_SLOTS:
     void init() {
-        program_ = std::make_unique<ScratchProgram>();
-        boxes_ = std::make_unique<ScriptedBoxes>();
+        RecordsTest::init();
         variabiliGlobali::inChiusura = true;
         guida::file.clear();
     }
     void cleanup() {
         variabiliGlobali::inChiusura = true; // or the shell would stay
         toolkit::Form::destroyAll();
-        QVERIFY(boxes_->satisfied());
-        boxes_.reset();
-        program_.reset();
+        RecordsTest::cleanup();
     }
 
     void startsInOrder() {
-        givePictures(*program_);
+        givePictures(program());
         const SplashWatch splash;
         Main();
-        QVERIFY(splash.full);
-        QVERIFY(splash.mainHidden);
-        QVERIFY(!frmSplash::esiste());
+        QVERIFY(splash.full && splash.mainHidden && !frmSplash::esiste());
         QVERIFY(Principale::comune().isVisible());
-        QVERIFY(mdiScheda::comune().isLoaded());
-        QVERIFY(!mdiScheda::comune().isVisible());
+        QVERIFY(mdiScheda::comune().isLoaded() && !mdiScheda::comune().isVisible());
         QVERIFY(!variabiliGlobali::inChiusura);
-        QCOMPARE(guida::file, program_->folder() + u"\\HELP\\HELP.hlp"_s);
-        QCOMPARE(host::readSetting(u"General"_s, u"Path"_s), program_->folder());
+        QCOMPARE(guida::file, program().folder() + u"\\HELP\\HELP.hlp"_s);
+        QCOMPARE(host::readSetting(u"General"_s, u"Path"_s), program().folder());
         QCOMPARE(
-            program_->log(),
+            log(),
             QStringList(
                 {u" **** Application START - Quiver-Deck versione "_s + host::versionText(),
                  u"Execute - INSERT INTO Parametri (parametro, valore) VALUES ('CAMBIO_RISOLUZIONE', '1') "_s,
@@ -88,44 +81,40 @@ private Q_SLOTS:
         // A second start appends.
         toolkit::Form::destroyAll();
         Main();
-        QCOMPARE(program_->log().size(), 9); // the counter's look-up is logged the second time
-        QCOMPARE(program_->log().last(), u" **** Application END"_s);
+        QCOMPARE(log().size(), 9); // the counter's look-up is logged the second time
+        QCOMPARE(log().last(), u" **** Application END"_s);
     }
 
     void failureLeavesEverythingAsItStands() {
-        boxes_->expectBeginning(host::Icon::None, u"File non trovato"_s); // no pictures
+        boxes().expectBeginning(Icon::None, u"File non trovato"_s); // no pictures
         Main();
         QVERIFY(frmSplash::comune().isVisible());
         QVERIFY(!Principale::esiste());
-        QCOMPARE(program_->log().last(), u"Risoluzione 1280x800"_s);
+        QCOMPARE(log().last(), u"Risoluzione 1280x800"_s);
         QTest::keyClick(&frmSplash::comune(), Qt::Key_Escape);
         QVERIFY(!frmSplash::esiste());
     }
 
     void missingStoreIsLoggedAndTold() {
-        QFile::remove(program_->store());
-        boxes_->expectBeginning(host::Icon::None,
-                                u"Impossibile aprire l’archivio"_s); // looking the counter up
-        boxes_->expectBeginning(host::Icon::None, u"Impossibile aprire l’archivio"_s); // storing it
-        boxes_->expectBeginning(host::Icon::None,
-                                u"14-Impossibile aprire l’archivio"_s); // the same, its INSERT
-        boxes_->expectBeginning(host::Icon::None, u"File non trovato"_s);
+        QFile::remove(program().store());
+        // The counter is looked up, counted and stored; then the pictures are missing.
+        for (const auto& box : {u"Impossibile aprire l’archivio"_s, u"Impossibile aprire l’archivio"_s,
+                                u"14-Impossibile aprire l’archivio"_s, u"File non trovato"_s})
+            boxes().expectBeginning(Icon::None, box);
         Main();
-        QVERIFY(program_->log().first().startsWith(u" **** Application START"_s));
+        QVERIFY(log().first().startsWith(u" **** Application START"_s));
     }
 
     void logThatCannotBeWritten() {
-        QVERIFY(QDir().mkdir(program_->folder() + u"/log.txt"_s));
-        boxes_->expectBeginning(host::Icon::None, u"Impossibile scrivere"_s);
+        QVERIFY(QDir().mkdir(program().folder() + u"/log.txt"_s));
+        boxes().expectBeginning(Icon::None, u"Impossibile scrivere"_s);
         Main();
         QVERIFY(!frmSplash::esiste()); // it failed before any window
     }
 
 private:
     WideDisplay display_;
-    std::unique_ptr<ScratchProgram> program_;
-    std::unique_ptr<ScriptedBoxes> boxes_;
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestMain)
+QUIVERDECK_TEST(TestMain)
 #include "test_main.moc"

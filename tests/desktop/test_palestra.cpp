@@ -1,23 +1,11 @@
 #include "desktop/SliderEffect.h"
 #include "desktop/palestra.h"
-#include "platform/host/Controls.h"
-#include "support/Errors.h"
-#include "support/ScratchProgram.h"
-#include "support/ScriptedBoxes.h"
-
-#include <QTest>
+#include "support/FakeControls.h"
+#include "support/RecordsTest.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class FakeCursor : public host::Cursor {
-public:
-    FakeCursor() { host::setCursor(this); }
-    ~FakeCursor() override { host::setCursor(nullptr); }
-    QPoint position() override { return {0, y}; }
-    int y = 0;
-};
 
 class FakeBar : public host::ScrollValue {
 public:
@@ -30,19 +18,9 @@ public:
 
 } // namespace
 
-class TestPalestra : public QObject {
+class TestPalestra : public RecordsTest {
     Q_OBJECT
 private Q_SLOTS:
-    void init() {
-        program_ = std::make_unique<ScratchProgram>();
-        boxes_ = std::make_unique<ScriptedBoxes>();
-    }
-    void cleanup() {
-        QVERIFY(boxes_->satisfied());
-        boxes_.reset();
-        program_.reset();
-    }
-
     void roundTrip() {
         palestra gym;
         gym.nome = u"L'Arena"_s;
@@ -53,26 +31,25 @@ private Q_SLOTS:
         read.carica();
         QCOMPARE(QStringList({read.nome, read.responsabile, read.logo}),
                  QStringList({u"L`Arena"_s, u"Ugo D`Amico"_s, u"/opt/Palestra è qui\\images\\l`ogo.JPG"_s}));
-        QCOMPARE(program_->log(),
-                 QStringList({u"Execute - UPDATE palestra SET nome= 'L`Arena',responsabile= "
-                              "'Ugo D`Amico',logo='/opt/Palestra è qui\\images\\l`ogo.JPG' "_s}));
-        program_->sql(u"INSERT INTO palestra VALUES ('x','y','z')"_s);
+        QCOMPARE(log(), QStringList({u"Execute - UPDATE palestra SET nome= 'L`Arena',responsabile= "
+                                     "'Ugo D`Amico',logo='/opt/Palestra è qui\\images\\l`ogo.JPG' "_s}));
+        sql(u"INSERT INTO palestra VALUES ('x','y','z')");
         read.save(); // rewrites whatever rows are there
-        QCOMPARE(program_->rows(u"SELECT DISTINCT nome FROM palestra"_s), QStringList({u"L`Arena"_s}));
+        QCOMPARE(rows(u"SELECT DISTINCT nome FROM palestra"), u"L`Arena"_s);
     }
 
     void emptyTable() {
-        program_->sql(u"DELETE FROM palestra"_s);
+        sql(u"DELETE FROM palestra");
         palestra gym;
         gym.nome = u"Arena"_s;
-        boxes_->expect(host::Icon::Critical, u"Archivio Vuoto o Problemi di connessione!"_s);
+        boxes().expect(Icon::Critical, u"Archivio Vuoto o Problemi di connessione!"_s);
         gym.carica();
         QCOMPARE(gym.nome, u"Arena"_s);
         QVERIFY(gym.save());
-        QCOMPARE(program_->rows(u"SELECT * FROM palestra"_s), QStringList({u"Arena||"_s}));
-        QVERIFY(program_->log().isEmpty()); // the first one goes unlogged
-        program_->sql(u"DELETE FROM palestra; CREATE TRIGGER t BEFORE INSERT ON palestra "
-                      "BEGIN SELECT RAISE(ABORT,'no'); END"_s);
+        QCOMPARE(rows(u"SELECT * FROM palestra"), u"Arena||"_s);
+        QVERIFY(log().isEmpty()); // the first one goes unlogged
+        sql(u"DELETE FROM palestra; CREATE TRIGGER t BEFORE INSERT ON palestra "
+            "BEGIN SELECT RAISE(ABORT,'no'); END");
         QCOMPARE(errorOf([&] { return gym.save(); }), 1811); // and its failure rises
     }
 
@@ -95,16 +72,12 @@ private Q_SLOTS:
             {1, 387, 980}, {0, 0, 980},   {1, 24, 20},
         };
         for (const Move& move : moves) {
-            cursor.y = move.y;
+            cursor.at = {0, move.y};
             slider.setDisplacement(static_cast<qint16>(move.button), bar);
             QCOMPARE(bar.now, move.value);
         }
     }
-
-private:
-    std::unique_ptr<ScratchProgram> program_;
-    std::unique_ptr<ScriptedBoxes> boxes_;
 };
 
-QTEST_GUILESS_MAIN(TestPalestra)
+QUIVERDECK_TEST(TestPalestra)
 #include "test_palestra.moc"

@@ -1,12 +1,9 @@
 #include "platform/store/Backups.h"
-#include "support/ScratchProgram.h"
+#include "support/RecordsTest.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QTest>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -42,12 +39,13 @@ int mode(const QString& path) {
 
 } // namespace
 
-class TestBackups : public QObject {
+class TestBackups : public RecordsTest {
     Q_OBJECT
 private Q_SLOTS:
     void init() {
-        program_ = std::make_unique<ScratchProgram>();
-        folder_ = program_->folder() + u"/backup"_s;
+        RecordsTest::init();
+        store_ = program().store();
+        folder_ = program().folder() + u"/backup"_s;
         now_ = QDateTime(QDate(2026, 11, 22), QTime(22, 30));
     }
 
@@ -55,8 +53,8 @@ private Q_SLOTS:
         const Backups backups = make();
         QCOMPARE(backups.run(), Outcome::Copied);
         QCOMPARE(backups.run(), Outcome::Unchanged);
-        program_->sql(u"INSERT INTO categorie VALUES (9,'Nuova')"_s);
-        touch(program_->store(), 1);
+        sql(u"INSERT INTO categorie VALUES (9,'Nuova')");
+        touch(store_, 1);
         now_ = now_.addDays(1);
         QCOMPARE(backups.run(), Outcome::Copied);
         const auto copies = backups.copies();
@@ -88,72 +86,58 @@ private Q_SLOTS:
                  "261031 260930 260831 260731 260630 260531 260430 260331 260228 260131 251231 251130"_s);
     }
 
-    void removesOldFiles() {
+    void removesOldFilesOfItsOwn() {
         const Backups backups = make();
-        for (int i = 0; i < 14; ++i, now_ = now_.addSecs(60)) {
-            touch(program_->store(), i);
+        for (int i = 0; i < 12; ++i, now_ = now_.addSecs(60)) {
+            touch(store_, i);
             QCOMPARE(backups.run(), Outcome::Copied);
+            write(folder_ + u"/splash-note.ps"_s, "the user's own");
         }
-        write(folder_ + u"/splash-note.ps"_s, "the user's own");
         QCOMPARE(backups.copies().size(), 10);
         QVERIFY(QFile::exists(folder_ + u"/splash-note.ps"_s));
     }
 
     void damagedStoreIsNeverCopiedAndComesBack_data() {
-        QTest::addColumn<int>("damage");
-        QTest::newRow("missing") << 0;
-        QTest::newRow("truncated") << 1;
-        QTest::newRow("zeros") << 2;
-        QTest::newRow("picture") << 3;
-        QTest::newRow("empty") << 4;
-        QTest::newRow("pages overwritten") << 5;
+        QTest::addColumn<QString>("damage");
+        for (const char* damage : {"missing", "empty", "truncated", "zeros", "picture", "pages overwritten"})
+            QTest::newRow(damage) << QString::fromLatin1(damage);
     }
 
     void damagedStoreIsNeverCopiedAndComesBack() {
-        QFETCH(int, damage);
+        QFETCH(QString, damage);
         const Backups backups = make();
         QCOMPARE(backups.run(), Outcome::Copied);
-        const QString store = program_->store();
-        const QStringList rows = program_->rows(u"SELECT * FROM categorie"_s);
-        QByteArray bytes = read(store);
+        const QString before = rows(u"SELECT * FROM categorie");
+        const QByteArray bytes = read(store_);
         const qsizetype page = 4096;
-        switch (damage) {
-        case 0:
-            QFile::remove(store);
-            break;
-        case 1:
-            write(store, bytes.left(bytes.size() / 2));
-            break;
-        case 2:
-            write(store, QByteArray(bytes.size(), '\0'));
-            break;
-        case 3:
-            write(store, QByteArray("\xff\xd8\xff\xe0 JFIF") + QByteArray(9000, 'x'));
-            break;
-        case 4:
-            write(store, {});
-            break;
-        default:
-            write(store, bytes.left(page) + QByteArray(bytes.size() - page, '\x5a'));
-        }
-        QVERIFY(!store::isGood(store));
+        if (damage == u"missing")
+            QFile::remove(store_);
+        else if (damage == u"empty")
+            write(store_, {});
+        else if (damage == u"truncated")
+            write(store_, bytes.left(bytes.size() / 2));
+        else if (damage == u"zeros")
+            write(store_, QByteArray(bytes.size(), '\0'));
+        else if (damage == u"picture")
+            write(store_, QByteArray("\xff\xd8\xff\xe0 JFIF") + QByteArray(9000, 'x'));
+        else
+            write(store_, bytes.left(page) + QByteArray(bytes.size() - page, '\x5a'));
+        QVERIFY(!store::isGood(store_));
         now_ = now_.addDays(1);
-        const Outcome outcome = backups.run();
-        QVERIFY(outcome == Outcome::Damaged || (damage == 0 && outcome == Outcome::Failed));
+        QCOMPARE(backups.run(), damage == u"missing" ? Outcome::Failed : Outcome::Damaged);
         QCOMPARE(backups.copies().size(), 1);
-        write(store + u"-journal"_s, "left by a crash");
+        write(store_ + u"-journal"_s, "left by a crash");
 
-        const QByteArray damaged = read(store);
+        const QByteArray damaged = read(store_);
         const auto good = backups.newestGood();
         QVERIFY(good);
         const auto aside = backups.restore(*good);
         QVERIFY(aside);
-        QVERIFY(store::isGood(store));
-        QCOMPARE(program_->rows(u"SELECT * FROM categorie"_s), rows);
-        QCOMPARE(aside->isEmpty(), damage == 0);
-        if (damage != 0)
-            QCOMPARE(read(*aside), damaged);
-        QVERIFY(!QFile::exists(store + u"-journal"_s));
+        QVERIFY(!QFile::exists(store_ + u"-journal"_s)); // never to be played into the copy
+        QVERIFY(store::isGood(store_));
+        QCOMPARE(rows(u"SELECT * FROM categorie"), before);
+        QCOMPARE(aside->isEmpty(), damage == u"missing");
+        QCOMPARE(read(*aside), damaged);
     }
 
     void newestGoodPassesOverDamagedCopies() {
@@ -161,12 +145,12 @@ private Q_SLOTS:
         QCOMPARE(backups.run(), Outcome::Copied);
         const QDateTime first = now_;
         now_ = now_.addDays(1);
-        touch(program_->store(), 1);
+        touch(store_, 1);
         QCOMPARE(backups.run(), Outcome::Copied);
         write(backups.copies().first().path, "no store");
         QCOMPARE(backups.newestGood()->taken, first);
         QVERIFY(!backups.restore(backups.copies().first())); // and a bad one is never put back
-        QVERIFY(store::isGood(program_->store()));
+        QVERIFY(store::isGood(store_));
     }
 
     void folderThatCannotBeWritten() {
@@ -176,22 +160,22 @@ private Q_SLOTS:
     }
 
     void schemaNumber() {
-        QCOMPARE(*store::schemaOf(program_->store()), store::schemaVersion);
-        program_->sql(u"PRAGMA user_version = 2"_s);
-        QCOMPARE(*store::schemaOf(program_->store()), 2U);
-        QVERIFY(!store::isGood(program_->store()));
+        QCOMPARE(*store::schemaOf(store_), store::schemaVersion);
+        sql(u"PRAGMA user_version = 2");
+        QCOMPARE(*store::schemaOf(store_), 2U);
+        QVERIFY(!store::isGood(store_));
         QVERIFY(!store::schemaOf(folder_));
     }
 
 private:
     Backups make() {
-        return Backups(program_->store(), folder_, [this] { return now_; });
+        return Backups(store_, folder_, [this] { return now_; });
     }
 
-    std::unique_ptr<ScratchProgram> program_;
+    QString store_;
     QString folder_;
     QDateTime now_;
 };
 
-QTEST_GUILESS_MAIN(TestBackups)
+QUIVERDECK_TEST(TestBackups)
 #include "test_backups.moc"

@@ -1,6 +1,8 @@
 #pragma once
 // Small drawn pictures for the tests, and rasters compared by what the eye sees.
 
+#include "printing/Painting.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
@@ -45,6 +47,15 @@ inline double greatestBlockDifference(const QImage& a, const QImage& b, int side
         for (int x = 0; x < blocks.width(); ++x)
             greatest = std::max(greatest, std::abs(grey(a, x, y) - grey(b, x, y)));
     return greatest;
+}
+
+/// What is left of a difference when a page painted `ratio` times finer is reduced again.
+inline double differenceWhenReduced(const sheet::Surface& surface, int ratio) {
+    const QImage once = sheet::raster(surface, 1);
+    QImage finer = sheet::raster(surface, ratio);
+    finer.setDevicePixelRatio(1);
+    const QImage reduced = finer.scaled(once.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return greatestBlockDifference(once, reduced.convertToFormat(once.format()), 12);
 }
 
 } // namespace disegni

@@ -1,40 +1,30 @@
 #include "ProgrammaDiProva.h"
 #include "core/variabiliGlobali.h"
-#include "platform/runtime/Error.h"
+#include "platform/toolkit/Application.h"
 #include "platform/toolkit/ScrollBar.h"
 #include "platform/toolkit/StatusBar.h"
 #include "printing/MisureAnteprima.h"
-#include "printing/Painting.h"
 #include "printing/PrinterCanvas.h"
+#include "support/Errors.h"
+#include "support/FakeControls.h"
 #include "support/ScriptedBoxes.h"
 #include "support/ScriptedDialogs.h"
-#include "support/ToolkitTest.h"
+#include "support/Suite.h"
 #include "support/WindowChecks.h"
 #include "support/WindowPage.h"
 
 #include <QFile>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-
-/// The mouse where the test puts it.
-class FakeCursor : public host::Cursor {
-public:
-    FakeCursor() { host::setCursor(this); }
-    ~FakeCursor() override { host::setCursor(nullptr); }
-    FakeCursor(const FakeCursor&) = delete;
-    FakeCursor& operator=(const FakeCursor&) = delete;
-    QPoint position() override { return at; }
-
-    QPoint at;
-};
 
 qsizetype pdfPages(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return -1;
-    return QString::fromLatin1(file.readAll())
-        .count(QRegularExpression(QStringLiteral("/Type /Page\\b(?!s)")));
+    return QString::fromLatin1(file.readAll()).count(QRegularExpression(u"/Type /Page\\b(?!s)"_s));
 }
 
 PrinterCanvas& open(qint32 card) {
@@ -45,12 +35,12 @@ PrinterCanvas& open(qint32 card) {
 }
 
 QString page(const PrinterCanvas& window) {
-    return window.findChild<toolkit::StatusBar*>(QStringLiteral("StatusBar1"))->panel(QStringLiteral("info"));
+    return window.findChild<toolkit::StatusBar*>(u"StatusBar1"_s)->panel(u"info"_s);
 }
 
 } // namespace
 
-class AnteprimaTest : public QObject {
+class TestAnteprima : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -62,66 +52,54 @@ private Q_SLOTS:
     }
 
     void measures_data() {
-        QTest::addColumn<double>("width");
-        QTest::addColumn<double>("height");
-        QTest::addColumn<double>("barLeft");
-        QTest::addColumn<double>("barHeight");
-        QTest::addColumn<int>("max"); // 0: the bar keeps its range
-        QTest::addColumn<int>("small");
-        QTest::addColumn<int>("large");
-        QTest::addColumn<double>("left");
-        QTest::newRow("1024 x 768") << 15360.0 << 11420.0 << 15005.0 << 10120.0 << 5556 << 278 << 556
-                                    << 2010.0;
+        QTest::addColumn<QSizeF>("size");
+        // The bar's left and height, its maximum and both steps (0: it keeps its range), the page's left.
+        QTest::addColumn<QList<double>>("measures");
+        using Measures = QList<double>;
+        QTest::newRow("1024 x 768") << QSizeF(15360, 11420) << Measures{15005, 10120, 5556, 278, 556, 2010};
         QTest::newRow("narrower than the page")
-            << 9000.0 << 9000.0 << 8645.0 << 7700.0 << 7976 << 399 << 798 << 0.0;
-        QTest::newRow("as wide as the page")
-            << 11340.0 << 9000.0 << 10985.0 << 7700.0 << 7976 << 399 << 798 << 0.0;
-        QTest::newRow("one twip short") << 15360.0 << 16975.0 << 15005.0 << 15675.0 << 1 << 0 << 0 << 2010.0;
+            << QSizeF(9000, 9000) << Measures{8645, 7700, 7976, 399, 798, 0};
+        QTest::newRow("one twip short") << QSizeF(15360, 16975) << Measures{15005, 15675, 1, 0, 0, 2010};
         QTest::newRow("the whole page shows")
-            << 15360.0 << 16976.0 << 15005.0 << 15676.0 << 0 << 0 << 0 << 2010.0;
+            << QSizeF(15360, 16976) << Measures{15005, 15676, 0, 0, 0, 2010};
     }
     void measures() {
-        QFETCH(double, width);
-        QFETCH(double, height);
-        const MisureAnteprima found = misuraAnteprima(width, height, 900, 255, 11340, 15876);
-        QTEST(found.barLeft, "barLeft");
-        QTEST(found.barHeight, "barHeight");
-        QTEST(found.canvasLeft, "left");
-        QTEST(found.corsa ? found.corsa->Max : 0, "max");
-        QTEST(found.corsa ? found.corsa->SmallChange : 0, "small");
-        QTEST(found.corsa ? found.corsa->LargeChange : 0, "large");
-    }
-    void measuresBeyond16Bits() {
-        QVERIFY_THROWS_EXCEPTION(runtime::Error, misuraAnteprima(100, 100, 0, 255, 11340, 33000));
+        QFETCH(QSizeF, size);
+        const auto found = misuraAnteprima(size.width(), size.height(), 900, 255, 11340, 15876);
+        const auto range = found.corsa.value_or(decltype(found.corsa)::value_type{});
+        QTEST(QList<double>({found.barLeft, found.barHeight, double(range.Max), double(range.SmallChange),
+                             double(range.LargeChange), found.canvasLeft}),
+              "measures");
+        QCOMPARE(errorOf([] { misuraAnteprima(100, 100, 0, 255, 11340, 33000); }), 6);
     }
 
     void pagingStopsAtBothEnds() {
         PrinterCanvas& window = open(program.storedCard(11));
         const WindowPage form(window);
-        QCOMPARE(page(window), QStringLiteral("Pagina 1/2"));
-        form.press(QStringLiteral("PagPrec"));
-        QCOMPARE(page(window), QStringLiteral("Pagina 1/2"));
-        auto& bar = form.find<toolkit::ScrollBar>(QStringLiteral("VScroll1"));
+        QCOMPARE(page(window), u"Pagina 1/2"_s);
+        form.press(u"PagPrec"_s);
+        QCOMPARE(page(window), u"Pagina 1/2"_s);
+        auto& bar = form.find<toolkit::ScrollBar>(u"VScroll1"_s);
         bar.setValue(bar.maximum());
-        const int lowest = form.widget(QStringLiteral("canvas")).y();
+        const int lowest = form.widget(u"canvas"_s).y();
         QVERIFY2(lowest < 0, "the page follows the bar");
-        const int left = form.widget(QStringLiteral("canvas")).x();
-        form.press(QStringLiteral("PagSucc"));
-        QCOMPARE(page(window), QStringLiteral("Pagina 2/2"));
-        QCOMPARE(form.widget(QStringLiteral("canvas")).pos(), QPoint(left, 0));
-        form.press(QStringLiteral("PagSucc"));
-        QCOMPARE(page(window), QStringLiteral("Pagina 2/2"));
+        const int left = form.widget(u"canvas"_s).x();
+        form.press(u"PagSucc"_s);
+        QCOMPARE(page(window), u"Pagina 2/2"_s);
+        QCOMPARE(form.widget(u"canvas"_s).pos(), QPoint(left, 0));
+        form.press(u"PagSucc"_s);
+        QCOMPARE(page(window), u"Pagina 2/2"_s);
         QCOMPARE(cutTexts(window), QStringList());
-        form.press(QStringLiteral("esci"));
+        form.press(u"esci"_s);
         QVERIFY(!PrinterCanvas::esiste());
     }
 
     void anEmptyCardHasNothingToPrint() {
         ScriptedPrinterDialog printer;
-        boxes.expect(host::Icon::Critical, QStringLiteral("Nessun esercizio caricato in questa scheda!"));
+        boxes.expect(host::Icon::Critical, u"Nessun esercizio caricato in questa scheda!"_s);
         const WindowPage form(open(program.storedCard(0)));
-        form.press(QStringLiteral("Stampa"));
-        form.press(QStringLiteral("PagSucc"));
+        form.press(u"Stampa"_s);
+        form.press(u"PagSucc"_s);
         QCOMPARE(printer.calls, 0);
     }
 
@@ -142,29 +120,28 @@ private Q_SLOTS:
         QFETCH(int, copies);
         ScriptedPrinterDialog printer;
         QTemporaryDir folder;
-        printer.pdf = folder.filePath(QStringLiteral("scheda d’allenamento.pdf"));
+        printer.pdf = folder.filePath(u"scheda d’allenamento.pdf"_s);
         printer.from = from;
         printer.to = to;
         printer.copies = copies;
         PrinterCanvas& window = open(program.storedCard(11));
-        WindowPage(window).press(QStringLiteral("Stampa"));
+        WindowPage(window).press(u"Stampa"_s);
         QTEST(static_cast<int>(pdfPages(printer.pdf)), "sheets");
         QTEST(page(window), "shown"); // the last printed sheet stays on show
         QCOMPARE(printer.asked.maximum, 2);
-        QVERIFY2(printer.asked.proposedFile.endsWith(QStringLiteral(".pdf")),
-                 qPrintable(printer.asked.proposedFile));
+        QVERIFY2(printer.asked.proposedFile.endsWith(u".pdf"_s), qPrintable(printer.asked.proposedFile));
         QVERIFY2(!printer.asked.proposedFile.contains(u'/'), qPrintable(printer.asked.proposedFile));
     }
 
     void aCancelIsSilentAndAnErrorIsTold() {
         ScriptedPrinterDialog printer;
         const WindowPage form(open(program.storedCard(3)));
-        form.press(QStringLiteral("Stampa")); // dismissed
+        form.press(u"Stampa"_s); // dismissed
         QCOMPARE(printer.calls, 1);
-        printer.pdf = program.folder() + QStringLiteral("/manca/scheda.pdf");
-        boxes.expectBeginning(host::Icon::None, QStringLiteral("La stampa non è riuscita"));
-        form.press(QStringLiteral("Stampa"));
-        QVERIFY(form.isVisible(QStringLiteral("canvas")));
+        printer.pdf = program.folder() + u"/manca/scheda.pdf"_s;
+        boxes.expectBeginning(host::Icon::None, u"La stampa non è riuscita"_s);
+        form.press(u"Stampa"_s);
+        QVERIFY(form.isVisible(u"canvas"_s));
     }
 
     void theHandDragsThePage_data() {
@@ -181,8 +158,8 @@ private Q_SLOTS:
         QFETCH(Qt::MouseButton, button);
         FakeCursor cursor;
         const WindowPage form(open(program.storedCard(4)));
-        QWidget& canvas = form.widget(QStringLiteral("canvas"));
-        auto& bar = form.find<toolkit::ScrollBar>(QStringLiteral("VScroll1"));
+        QWidget& canvas = form.widget(u"canvas"_s);
+        auto& bar = form.find<toolkit::ScrollBar>(u"VScroll1"_s);
         QVERIFY(bar.maximum() > 400);
         const auto move = [&](int y, Qt::MouseButtons buttons) {
             cursor.at = QPoint(0, y);
@@ -205,5 +182,5 @@ private:
     ScriptedBoxes boxes;
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(AnteprimaTest)
+QUIVERDECK_TEST(TestAnteprima)
 #include "test_anteprima.moc"

@@ -3,8 +3,7 @@
 #include "printing/cTime.h"
 #include "support/Errors.h"
 #include "support/FakeControls.h"
-
-#include <QTest>
+#include "support/Suite.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +31,6 @@ private Q_SLOTS:
         QTest::newRow("carries") << Time{0, 59, 30} << Time{0, 0, 45} << u"1:00:15"_s;
         QTest::newRow("no wrap at 24") << Time{99, 59, 59} << Time{0, 0, 1} << u"100:00:00"_s;
         QTest::newRow("reduces what was set") << Time{0, 0, 90} << Time{0, 0, 0} << u"01:30"_s;
-        QTest::newRow("largest") << Time{0, 0, 32766} << Time{0, 0, 1} << u"9:06:07"_s;
         QTest::newRow("too many seconds") << Time{0, 0, 32767} << Time{0, 0, 1} << QString();
         QTest::newRow("too many with the carry") << Time{0, 32767, 59} << Time{0, 0, 1} << QString();
         QTest::newRow("too many hours") << Time{32767, 59, 0} << Time{0, 1, 0} << QString();
@@ -44,7 +42,7 @@ private Q_SLOTS:
         QFETCH(QString, sum);
         cTime time;
         time.setTime(left[0], left[1], left[2]);
-        const int error = errorOf([&] { return time.Add(right[0], right[1], right[2]), 0; });
+        const int error = errorOf([&] { time.Add(right[0], right[1], right[2]); });
         QCOMPARE(error, sum.isEmpty() ? 6 : 0);
         if (!sum.isEmpty())
             QCOMPARE(time.getTime(), sum);
@@ -52,11 +50,9 @@ private Q_SLOTS:
 
     void textOfATime() {
         cTime time;
-        QCOMPARE(time.getTime(), u"00:00"_s);
         time.setTime(0, 0, 90);
         QCOMPARE(time.getTime(), u"00:90"_s); // as set, until the next addition
         time.setTime(1, 5, 9);
-        QCOMPARE(time.getTime(), u"1:05:09"_s);
         time.addTime(time);
         QCOMPARE(time.getTime(), u"2:10:18"_s);
     }
@@ -65,9 +61,8 @@ private Q_SLOTS:
         QTest::addColumn<QList<Line>>("lines");
         QTest::addColumn<QString>("times"); // effective, recovery, total; empty: overflow
         QTest::newRow("no line") << QList<Line>{} << u"00:00 00:00 00:00"_s;
-        QTest::newRow("one") << QList<Line>{{u"30"_s, 3, 1, 20}} << u"01:30 04:00 05:30"_s;
         QTest::newRow("text behind the number")
-            << QList<Line>{{u"30 sec"_s, 2, 0, 0}} << u"01:00 00:00 01:00"_s;
+            << QList<Line>{{u"30 sec"_s, 3, 1, 20}} << u"01:30 04:00 05:30"_s;
         QTest::newRow("no number") << QList<Line>{{u"max"_s, 2, 0, 5}} << u"00:00 00:10 00:10"_s;
         QTest::newRow("no series") << QList<Line>{{u"30"_s, 0, 1, 20}} << u"00:00 00:00 00:00"_s;
         QTest::newRow("ties to even")
@@ -84,7 +79,7 @@ private Q_SLOTS:
         QFETCH(QString, times);
         FakePanels bar;
         ContatoreTempi counter;
-        QCOMPARE(errorOf([&] { return counter.contaEstampa(), 0; }), 91);
+        QCOMPARE(errorOf([&] { counter.contaEstampa(); }), 91);
         counter.schedaCorrente = std::make_shared<scheda>();
         counter.barraStato = &bar;
         for (const Line& line : lines) {
@@ -97,23 +92,18 @@ private Q_SLOTS:
             exercise->isLibero = line.libero;
             counter.schedaCorrente->esercizi->Add(exercise);
         }
+        const QStringList t = (times.isEmpty() ? u"  "_s : times).split(u' ');
+        const QString told =
+            u"Tempi Quiver-Deck: Tempo effettivo: %1 - Tempo recupero: %2 - Tempo totale: %3              "
+            u"[NOTA: "
+            "Nel caso di allenamento a circuito il conteggio dei tempi riguarda solo uno di essi]"_s.arg(
+                t[0], t[1], t[2]);
         for (int call = 0; call < 2; ++call) { // nothing carries over
-            QCOMPARE(errorOf([&] { return counter.contaEstampa(), 0; }), times.isEmpty() ? 6 : 0);
-            if (times.isEmpty())
-                continue;
-            const QStringList t = times.split(u' ');
-            QCOMPARE(
-                bar.panel(u"status"_s),
-                u"Tempi Quiver-Deck: Tempo effettivo: %1 - Tempo recupero: %2 - Tempo totale: %3             "
-                u" "
-                "[NOTA: Nel caso di allenamento a circuito il conteggio dei tempi riguarda solo uno di essi]"_s
-                    .arg(t[0], t[1], t[2]));
+            QCOMPARE(errorOf([&] { counter.contaEstampa(); }), times.isEmpty() ? 6 : 0);
+            QCOMPARE(bar.panel(u"status"_s), times.isEmpty() ? QString() : told);
         }
-        bar.texts.clear();
-        if (!times.isEmpty())
-            QCOMPARE(errorOf([&] { return counter.contaEstampa(), 0; }), int{runtime::ElementNotFound});
     }
 };
 
-QTEST_GUILESS_MAIN(TestTempi)
+QUIVERDECK_TEST(TestTempi)
 #include "test_tempi.moc"

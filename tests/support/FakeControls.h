@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/host/Controls.h"
+#include "platform/host/Services.h"
 #include "platform/runtime/Error.h"
 
 #include <QHash>
@@ -29,6 +30,18 @@ public:
     void setChecked(int index, bool on) override { ticks.at(static_cast<std::size_t>(index)) = on; }
 
     std::vector<bool> ticks;
+};
+
+/// The mouse where the test puts it.
+class FakeCursor : public host::Cursor {
+public:
+    FakeCursor() { host::setCursor(this); }
+    ~FakeCursor() override { host::setCursor(nullptr); }
+    FakeCursor(const FakeCursor&) = delete;
+    FakeCursor& operator=(const FakeCursor&) = delete;
+    QPoint position() override { return at; }
+
+    QPoint at;
 };
 
 class FakePanels : public host::PanelText {

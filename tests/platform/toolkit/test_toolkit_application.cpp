@@ -5,6 +5,7 @@
 #include "platform/toolkit/Hourglass.h"
 #include "platform/toolkit/MessageBoxes.h"
 #include "platform/toolkit/Twips.h"
+#include "support/Suite.h"
 #include "support/ToolkitTest.h"
 
 #include <QMessageBox>
@@ -22,7 +23,7 @@ QMessageBox* openBox() {
 }
 
 /// The program that an uncaught error ends: its form must not be asked anything any more.
-int failingProgram() {
+int failingProgram(int /*argc*/, char** /*argv*/) {
     struct Asking : toolkit::Form {
         Asking() : Form("Asking") {}
         void onUnload() override { std::puts("unload"); }
@@ -41,6 +42,8 @@ int failingProgram() {
     return QApplication::exec();
 }
 
+const suite::Entry failingEntry(failing, &failingProgram);
+
 } // namespace
 
 class TestApplication : public QObject {
@@ -49,7 +52,7 @@ private Q_SLOTS:
     void uncaughtErrorEndsTheProcess() {
         QProcess program;
         program.start(QCoreApplication::applicationFilePath(), {failing});
-        QVERIFY(program.waitForFinished());
+        QVERIFY(program.waitForFinished(-1));
         QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QVERIFY(program.exitCode() != 0);
         QCOMPARE(program.readAllStandardOutput(), QByteArray("Quiver-Deck|Errore 13\n\nTipo non valido|3\n"));
@@ -68,42 +71,34 @@ private Q_SLOTS:
     void scaleSteps_data() {
         QTest::addColumn<QSize>("available");
         QTest::addColumn<double>("scale");
-        QTest::newRow("the design's own") << QSize(1024, 768) << 1.0;
-        QTest::newRow("smaller") << QSize(800, 600) << 1.0;
+        QTest::newRow("smaller than the design") << QSize(800, 600) << 1.0;
         QTest::newRow("just too low for a step") << QSize(1280, 959) << 1.0;
         QTest::newRow("a step") << QSize(1280, 960) << 1.25;
-        QTest::newRow("full HD") << QSize(1920, 1080) << 1.25;
         QTest::newRow("full HD with a panel") << QSize(1920, 1040) << 1.25;
         QTest::newRow("4K") << QSize(3840, 2160) << 2.75;
     }
     void scaleSteps() {
         QFETCH(QSize, available);
-        QFETCH(double, scale);
-        QCOMPARE(toolkit::Application::scaleFor(available), scale);
+        QTEST(toolkit::Application::scaleFor(available), "scale");
     }
 
     void answers_data() {
-        QTest::addColumn<int>("buttons");
-        QTest::addColumn<QString>("press");
-        QTest::addColumn<int>("answer");
+        QTest::addColumn<host::Buttons>("buttons");
+        QTest::addColumn<QString>("press"); // empty: Escape
+        QTest::addColumn<host::Answer>("answer");
         using host::Answer;
         using host::Buttons;
-        const auto row = [](const char* name, Buttons buttons, const char* press, Answer answer) {
-            QTest::newRow(name) << int(buttons) << QString(press) << int(answer);
-        };
-        row("ok", Buttons::Ok, "OK", Answer::Ok);
-        row("ok escaped", Buttons::Ok, "", Answer::Ok);
-        row("yes", Buttons::YesNo, "Sì", Answer::Yes);
-        row("no", Buttons::YesNo, "No", Answer::No);
-        row("yes or no escaped", Buttons::YesNo, "", Answer::No);
-        row("cancel", Buttons::YesNoCancel, "Annulla", Answer::Cancel);
-        row("three escaped", Buttons::YesNoCancel, "", Answer::Cancel);
-        row("no of three", Buttons::YesNoCancel, "No", Answer::No);
+        QTest::newRow("ok") << Buttons::Ok << "OK" << Answer::Ok;
+        QTest::newRow("ok escaped") << Buttons::Ok << "" << Answer::Ok;
+        QTest::newRow("yes") << Buttons::YesNo << "Sì" << Answer::Yes;
+        QTest::newRow("yes or no escaped") << Buttons::YesNo << "" << Answer::No;
+        QTest::newRow("cancel") << Buttons::YesNoCancel << "Annulla" << Answer::Cancel;
+        QTest::newRow("three escaped") << Buttons::YesNoCancel << "" << Answer::Cancel;
+        QTest::newRow("no of three") << Buttons::YesNoCancel << "No" << Answer::No;
     }
     void answers() {
-        QFETCH(int, buttons);
+        QFETCH(host::Buttons, buttons);
         QFETCH(QString, press);
-        QFETCH(int, answer);
         QString title;
         bool hourglass = true;
         const toolkit::Hourglass working;
@@ -121,9 +116,7 @@ private Q_SLOTS:
                 }
             }
         });
-        const auto given =
-            toolkit::MessageBoxes().show(host::Icon::Question, "Confermi?", host::Buttons(buttons));
-        QCOMPARE(int(given), answer);
+        QTEST(toolkit::MessageBoxes().show(host::Icon::Question, "Confermi?", buttons), "answer");
         QCOMPARE(title, host::title());
         QVERIFY(!hourglass && QGuiApplication::overrideCursor() != nullptr); // back when it has been answered
     }
@@ -131,34 +124,16 @@ private Q_SLOTS:
     void italianEverywhere() {
         QCOMPARE(QLocale().language(), QLocale::Italian);
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QString("Annulla"));
-    }
-
-    void fileFilters() {
         QCOMPARE(toolkit::FileDialogs::nameFilters("File Immagine|*.JPG;*.BMP;*.GIF|Tutti|*"),
                  QStringList({"File Immagine (*.JPG *.BMP *.GIF)", "Tutti (*)"}));
     }
 
-    void twips_data() {
-        QTest::addColumn<double>("twips");
-        QTest::addColumn<int>("pixels");
-        QTest::newRow("page height") << 3505.0 << 234;
-        QTest::newRow("a pixel to the left") << -15.0 << -1;
-        QTest::newRow("half") << 7.5 << 1;
-    }
     void twips() {
-        QFETCH(double, twips);
-        QFETCH(int, pixels);
-        QCOMPARE(toolkit::toPixels(twips), pixels);
+        QCOMPARE(toolkit::toPixels(3505), 234);
+        QCOMPARE(toolkit::toPixels(-15), -1);
+        QCOMPARE(toolkit::toPixels(7.5), 1);
     }
 };
 
-int main(int argc, char** argv) {
-    toolkit::Application application(argc, argv);
-    if (argc > 1 && QLatin1String(argv[1]) == QLatin1String(failing)) {
-        return failingProgram();
-    }
-    TestApplication test;
-    QTEST_SET_MAIN_SOURCE_PATH
-    return QTest::qExec(&test, argc, argv);
-}
+QUIVERDECK_TEST(TestApplication)
 #include "test_toolkit_application.moc"

@@ -1,5 +1,6 @@
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/Toolkit.h"
+#include "support/Suite.h"
 #include "support/ToolkitTest.h"
 #include "support/WindowPage.h"
 
@@ -61,6 +62,14 @@ public:
     QString acted;
 };
 
+class ShownPage : public FieldPage {
+public:
+    ShownPage() {
+        show();
+        QTRY_VERIFY(isActiveWindow());
+    }
+};
+
 void wheel(QWidget& widget) {
     QWheelEvent event(QPointF(5, 5), widget.mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -96,9 +105,7 @@ private Q_SLOTS:
         QFETCH(bool, asks);
         QFETCH(QString, acts);
         for (const bool good : {false, true}) {
-            FieldPage form;
-            form.show();
-            QTRY_VERIFY(form.isActiveWindow());
+            ShownPage form;
             const WindowPage page(form);
             page.type("serie", good ? "99" : "100");
             form.asked = 0;
@@ -130,9 +137,7 @@ private Q_SLOTS:
     }
 
     void typedItemPassesTypedNonsenseStays() {
-        FieldPage form;
-        form.show();
-        QTRY_VERIFY(form.isActiveWindow());
+        ShownPage form;
         const WindowPage page(form);
         page.type("durata", "50s");
         page.press("row");
@@ -157,9 +162,7 @@ private Q_SLOTS:
     }
 
     void aFailingCheckIsAFatalError() {
-        FieldPage form;
-        form.show();
-        QTRY_VERIFY(form.isActiveWindow());
+        ShownPage form;
         const ExpectedFatal fatal;
         WindowPage(form).type("serie", "1");
         form.throwing = true;
@@ -169,5 +172,5 @@ private Q_SLOTS:
     }
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestValidation)
+QUIVERDECK_TEST(TestValidation)
 #include "test_toolkit_validation.moc"

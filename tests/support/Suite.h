@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QTest>
+
+/// Several test classes in one program, which saves a link for each. A class bears the name of its file
+/// without "test_"; what stands behind the name is Qt Test's own: `test_records scheda travasaTo:shared`.
+/// Without a name all of them run, one behind the other.
+namespace suite {
+
+using Run = int (*)(int argc, char** argv);
+
+/// Adds one class while the program starts. A file name with a leading "--" is run on demand alone.
+struct Entry {
+    Entry(const char* file, Run run);
+};
+
+/// Runs what the arguments ask for; the number of failures, 255 for an unknown name.
+int run(int argc, char** argv);
+
+} // namespace suite
+
+#define QUIVERDECK_TEST(Class)                                                                               \
+    static const suite::Entry entryOf##Class(__FILE__, [](int argc, char** argv) {                           \
+        Class test;                                                                                          \
+        return QTest::qExec(&test, argc, argv);                                                              \
+    });
