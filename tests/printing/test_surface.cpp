@@ -181,8 +181,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("number");
         QTest::newRow("missing") << QByteArray() << int(runtime::FileNotFound);
         QTest::newRow("text") << QByteArray("non sono un'immagine") << InvalidPicture;
-        QTest::newRow("huge claim")
-            << QByteArray::fromHex("ffd8ffc2001108ffdcffdc03012200021101031101") << InvalidPicture;
+        QTest::newRow("huge claim") << QByteArray::fromHex("ffd8ffc2001108ffdcffdc03012200021101031101")
+                                    << InvalidPicture;
         QTest::newRow("header alone") << QByteArray("GIF89a\x10\x00\x10\x00", 10) << InvalidPicture;
     }
     void badPictures() {
