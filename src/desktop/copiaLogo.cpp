@@ -1,8 +1,8 @@
 #include "desktop/copiaLogo.h"
 
 #include "platform/host/ProgramDirectory.h"
+#include "platform/pictures/PictureFile.h"
 #include "platform/runtime/Error.h"
-#include "platform/toolkit/PictureFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,7 +37,7 @@ void sostituisci(const QString& origine, const QString& destinazione) {
 } // namespace
 
 QString copiaLogo(const QString& scelto) {
-    static_cast<void>(toolkit::PictureFile(scelto, toolkit::PictureFile::Literal).whole());
+    static_cast<void>(pictures::PictureFile(scelto, pictures::PictureFile::Literal).whole());
     // A backslash would part the stored path.
     const QString nome = QFileInfo(scelto).fileName().replace(QLatin1Char('\\'), QLatin1Char('_'));
     QString percorso = host::joined(QStringLiteral("\\images\\") + nome);

@@ -16,9 +16,8 @@ class Picture {
 public:
     Picture() = default;
 
-    /// Reads a JPEG, BMP, GIF or PNG file for a box of `box` twips. It is decoded scaled, so that a huge one
-    /// costs little memory. Raises FileNotFound for a missing file and InvalidPicture for one that cannot be
-    /// read or has more than 100 megapixels.
+    /// Reads a picture file for a box of `box` twips. It is decoded scaled, so that a huge one costs little
+    /// memory. Raises as pictures::PictureFile.
     static Picture fromFile(const QString& path, QSizeF box);
 
     /// A picture drawn anew at each size in pixels, such as a vector logo: sharp at any resolution.
@@ -39,8 +38,5 @@ private:
     struct Data;
     std::shared_ptr<Data> data_;
 };
-
-/// What the program reports for a file that is no picture.
-inline constexpr int InvalidPicture = 481;
 
 } // namespace sheet

@@ -1,5 +1,5 @@
 #include "fuzz/Fuzz.h"
-#include "platform/toolkit/PictureFile.h"
+#include "platform/pictures/PictureFile.h"
 #include "printing/Picture.h"
 #include "support/Errors.h"
 
@@ -10,7 +10,7 @@
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
-using toolkit::PictureFile;
+using pictures::PictureFile;
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include "disegni.h"
 
+#include "platform/pictures/PictureFile.h"
 #include "printing/FittedText.h"
 #include "printing/Painting.h"
 #include "printing/Stile.h"
@@ -180,10 +181,11 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<int>("number");
         QTest::newRow("missing") << QByteArray() << int(runtime::FileNotFound);
-        QTest::newRow("text") << QByteArray("non sono un'immagine") << InvalidPicture;
+        QTest::newRow("text") << QByteArray("non sono un'immagine") << pictures::PictureFile::badPicture;
         QTest::newRow("huge claim") << QByteArray::fromHex("ffd8ffc2001108ffdcffdc03012200021101031101")
-                                    << InvalidPicture;
-        QTest::newRow("header alone") << QByteArray("GIF89a\x10\x00\x10\x00", 10) << InvalidPicture;
+                                    << pictures::PictureFile::badPicture;
+        QTest::newRow("header alone")
+            << QByteArray("GIF89a\x10\x00\x10\x00", 10) << pictures::PictureFile::badPicture;
     }
     void badPictures() {
         QFETCH(QByteArray, content);

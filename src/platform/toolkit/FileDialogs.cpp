@@ -1,9 +1,9 @@
 #include "platform/toolkit/FileDialogs.h"
 
 #include "platform/host/Application.h"
+#include "platform/pictures/PictureFile.h"
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/Hourglass.h"
-#include "platform/toolkit/PictureFile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -37,7 +37,7 @@ void addPreview(QFileDialog& dialog) {
             return;
         }
         try {
-            const PictureFile file(path, PictureFile::Literal);
+            const pictures::PictureFile file(path, pictures::PictureFile::Literal);
             const bool fits =
                 file.size().width() <= previewSize.width() && file.size().height() <= previewSize.height();
             preview->setPixmap(QPixmap::fromImage(fits ? file.whole() : file.fitted(previewSize)));

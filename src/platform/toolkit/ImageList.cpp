@@ -1,7 +1,7 @@
 #include "platform/toolkit/ImageList.h"
 
+#include "platform/pictures/PictureFile.h"
 #include "platform/runtime/Error.h"
-#include "platform/toolkit/PictureFile.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -42,7 +42,7 @@ void ImageList::insert(const QString& key, Entry entry) {
 void ImageList::add(const QString& key, const QString& path) {
     const qreal density = qGuiApp->devicePixelRatio();
     const QSize pixels = (QSizeF(size_) * density).toSize();
-    QImage image = onWhite(PictureFile(path).fitted(pixels), pixels);
+    QImage image = onWhite(pictures::PictureFile(path).fitted(pixels), pixels);
     image.setDevicePixelRatio(density);
     insert(key, {image, {}});
 }

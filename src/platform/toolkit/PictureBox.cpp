@@ -1,6 +1,6 @@
 #include "platform/toolkit/PictureBox.h"
 
-#include "platform/toolkit/PictureFile.h"
+#include "platform/pictures/PictureFile.h"
 #include "platform/toolkit/Twips.h"
 
 #include <QDragEnterEvent>
@@ -16,7 +16,7 @@ PictureBox::PictureBox(const QString& name, QWidget* parent) : QFrame(parent) {
 }
 
 void PictureBox::load(const QString& path) {
-    const PictureFile file(path);
+    const pictures::PictureFile file(path);
     const QImage image = file.whole();
     setImage(image);
     ownSize_ = file.size();

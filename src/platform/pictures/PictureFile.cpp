@@ -1,4 +1,4 @@
-#include "platform/toolkit/PictureFile.h"
+#include "platform/pictures/PictureFile.h"
 
 #include "platform/host/ProgramDirectory.h"
 #include "platform/runtime/Error.h"
@@ -6,7 +6,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 
-namespace toolkit {
+namespace pictures {
 
 namespace {
 
@@ -72,4 +72,8 @@ QImage PictureFile::fitted(const QSize& box) const {
     return read(size_.scaled(box, Qt::KeepAspectRatio).expandedTo({1, 1}));
 }
 
-} // namespace toolkit
+QImage PictureFile::within(const QSize& box) const {
+    return read(size_.boundedTo(box).expandedTo({1, 1}));
+}
+
+} // namespace pictures
