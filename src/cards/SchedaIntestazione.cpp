@@ -27,7 +27,6 @@ constexpr double altezza = 3505;
 /// A new card runs for three weeks and three sessions a week.
 constexpr int giorniDiPeriodo = 21;
 const QString frequenzaUsuale = QStringLiteral("3");
-constexpr int categoriaUsuale = 1; // second of the list
 
 /// Nine days fill the list; pixels.
 constexpr QSize altezzaGiorno{100, 15};
@@ -210,7 +209,7 @@ void SchedaIntestazione::onLoad() {
     GGAllenHELPER::scriviGGAllen(aperta().GGAllen, GGAllen);
     note.setText(aperta().note);
     if (categoria.text().isEmpty()) {
-        categoria.selectIndex(categoriaUsuale);
+        categoria.selectIndex(Categorie::iniziale);
     }
 }
 

@@ -45,29 +45,21 @@ Anteprima::Anteprima(const QString& name, sheet::Surface surface, const QStringL
             [this](qint16 button) { sliderEffect.setDisplacement(button, VScroll1); });
 }
 
-void Anteprima::aggiungiPulsante(const QString& key, const QString& caption, const QString& tip) {
-    Toolbar.addButton(key, caption, tip);
-}
-
 void Anteprima::aggiungiBarraDiStato(const QStringList& panels) {
-    StatusBar1_ = new toolkit::StatusBar(QStringLiteral("StatusBar1"), this); // owned by the window
+    StatusBar1 = new toolkit::StatusBar(QStringLiteral("StatusBar1"), this); // owned by the window
     for (const QString& key : panels)
-        StatusBar1_->addPanel(key);
-    addBottomBar(StatusBar1_);
+        StatusBar1->addPanel(key);
+    addBottomBar(StatusBar1);
 }
 
-void Anteprima::preparaToolbar() {
+void Anteprima::onLoad() {
     caricaImmaginiToolbar(ImageList, Toolbar, objectName());
     Toolbar.setImageList(&ImageList);
     toolkit::assegnaImmaginiToolbar(Toolbar);
 }
 
-void Anteprima::onLoad() {
-    preparaToolbar();
-}
-
 double Anteprima::altezzaBarre() const {
-    const int status = StatusBar1_ ? StatusBar1_->sizeHint().height() : 0;
+    const int status = StatusBar1 ? StatusBar1->sizeHint().height() : 0;
     return toolkit::toTwips(Toolbar.sizeHint().height() + status);
 }
 

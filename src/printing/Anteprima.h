@@ -24,16 +24,14 @@ protected:
     /// `surface` becomes the window's; `sensibili` are the elements over which the page can be dragged.
     Anteprima(const QString& name, sheet::Surface surface, const QStringList& sensibili);
 
-    void aggiungiPulsante(const QString& key, const QString& caption, const QString& tip);
     /// Adds `StatusBar1` with its panels; without it the resize rule leaves its height out.
     void aggiungiBarraDiStato(const QStringList& panels);
 
+    /// Buttons take their pictures.
     void onLoad() override;
     void onResize() override;
     void wheelEvent(QWheelEvent* event) override;
 
-    /// Buttons take their pictures.
-    void preparaToolbar();
     /// Puts the page into the middle of a wide window, or at its left edge.
     void centraCanvas();
     /// Renders the surface into `Picture2`, four device pixels to a pixel of the screen.
@@ -56,9 +54,8 @@ protected:
     toolkit::ScrollBar VScroll1;
     QImage Picture2; ///< what is printed
     SliderEffect sliderEffect;
+    toolkit::StatusBar* StatusBar1 = nullptr; ///< only where aggiungiBarraDiStato made one
 
 private:
     double altezzaBarre() const;
-
-    toolkit::StatusBar* StatusBar1_ = nullptr;
 };

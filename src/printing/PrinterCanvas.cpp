@@ -30,21 +30,20 @@ QString nomeFile(QString text) {
 } // namespace
 
 void PrinterCanvas::Finestra::setFirstPanel(const QString& text) {
-    window_.findChild<toolkit::StatusBar*>(QStringLiteral("StatusBar1"))
-        ->setPanel(QStringLiteral("info"), text);
+    window_.StatusBar1->setPanel(QStringLiteral("info"), text);
 }
 
 PrinterCanvas::PrinterCanvas()
     : Anteprima(QStringLiteral("PrinterCanvas"), sheet::cardSurface(), sensibili), finestra_(*this),
       pages_(finestra_) {
-    aggiungiPulsante(QStringLiteral("Stampa"), QStringLiteral("Stampa"),
-                     QStringLiteral("Stampa l'intera scheda"));
-    aggiungiPulsante(QStringLiteral("PagPrec"), QStringLiteral("Pag.Prec"),
-                     QStringLiteral("Vai a Pagina precedente"));
-    aggiungiPulsante(QStringLiteral("PagSucc"), QStringLiteral("Pag.Succ"),
-                     QStringLiteral("Vai a Pagina successiva"));
-    aggiungiPulsante(QStringLiteral("esci"), QStringLiteral("Esci"),
-                     QStringLiteral("Esci dall'anteprima di stampa"));
+    Toolbar.addButton(QStringLiteral("Stampa"), QStringLiteral("Stampa"),
+                      QStringLiteral("Stampa l'intera scheda"));
+    Toolbar.addButton(QStringLiteral("PagPrec"), QStringLiteral("Pag.Prec"),
+                      QStringLiteral("Vai a Pagina precedente"));
+    Toolbar.addButton(QStringLiteral("PagSucc"), QStringLiteral("Pag.Succ"),
+                      QStringLiteral("Vai a Pagina successiva"));
+    Toolbar.addButton(QStringLiteral("esci"), QStringLiteral("Esci"),
+                      QStringLiteral("Esci dall'anteprima di stampa"));
     aggiungiBarraDiStato({QStringLiteral("info"), QStringLiteral("ProgressBar")});
 }
 

@@ -11,11 +11,11 @@
 PrinterDaNonFare::PrinterDaNonFare()
     : Anteprima(QStringLiteral("PrinterDaNonFare"), sheet::avvertenzeSurface(),
                 {QStringLiteral("avvertenze"), QStringLiteral("Image1"), QStringLiteral("Label1")}) {
-    aggiungiPulsante(QStringLiteral("Stampa"), QStringLiteral("Stampa"),
-                     QStringLiteral("Stampa la scheda corrente"));
-    aggiungiPulsante(QStringLiteral("PagPrec"), QStringLiteral("Pag.Prec"), {});
-    aggiungiPulsante(QStringLiteral("PagSucc"), QStringLiteral("Pag.Succ"), {});
-    aggiungiPulsante(QStringLiteral("esci"), QStringLiteral("Esci"), QStringLiteral("Esci dall'anteprima"));
+    Toolbar.addButton(QStringLiteral("Stampa"), QStringLiteral("Stampa"),
+                      QStringLiteral("Stampa la scheda corrente"));
+    Toolbar.addButton(QStringLiteral("PagPrec"), QStringLiteral("Pag.Prec"), {});
+    Toolbar.addButton(QStringLiteral("PagSucc"), QStringLiteral("Pag.Succ"), {});
+    Toolbar.addButton(QStringLiteral("esci"), QStringLiteral("Esci"), QStringLiteral("Esci dall'anteprima"));
 }
 
 void PrinterDaNonFare::onLoad() {

@@ -10,6 +10,9 @@
 /// The list of categories; the program only reads it.
 class Categorie {
 public:
+    /// The entry, from 0, that a list of the categories shows at first: the second, not the first.
+    static constexpr int iniziale = 1;
+
     Categorie();
 
     /// All categories by name; an empty collection for an empty table.

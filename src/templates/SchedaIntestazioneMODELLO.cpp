@@ -9,12 +9,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int categoriaIniziale = 1; ///< the second entry, not the first
-
-} // namespace
-
 SchedaIntestazioneMODELLO::SchedaIntestazioneMODELLO()
     : Form(u"SchedaIntestazioneMODELLO"_s), Frame1(u"Frame1"_s, client()),
       Label3(u"Label3"_s, u"Scheda Modello:"_s, &Frame1), Label7(u"Label7"_s, u"Categoria:"_s, &Frame1),
@@ -75,7 +69,7 @@ void SchedaIntestazioneMODELLO::onLoad() {
     descrizione.setText(modello.descrizione);
     note.setText(modello.note);
     if (categoria.text().isEmpty()) {
-        categoria.selectIndex(categoriaIniziale);
+        categoria.selectIndex(Categorie::iniziale);
     }
 }
 

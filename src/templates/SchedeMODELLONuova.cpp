@@ -12,12 +12,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int categoriaIniziale = 1; ///< the second entry, not the first
-
-} // namespace
-
 SchedeMODELLONuova::SchedeMODELLONuova()
     : Form(u"SchedeMODELLONuova"_s), Label1(u"Label1"_s, u"Categoria: "_s, client()),
       Label2(u"Label2"_s, u"Descrizione"_s, client()),
@@ -52,7 +46,7 @@ void SchedeMODELLONuova::onLoad() {
     if (!variabiliGlobali::nomeModelloSelezionato.isEmpty()) {
         categoria.setText(variabiliGlobali::nomeModelloSelezionato);
     } else {
-        categoria.selectIndex(categoriaIniziale);
+        categoria.selectIndex(Categorie::iniziale);
     }
 }
 

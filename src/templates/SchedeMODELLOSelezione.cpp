@@ -18,7 +18,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int colonnaDescrizione = 1;
-constexpr int categoriaIniziale = 1; ///< the second entry, not the first
 constexpr qint32 annullato = -1;
 
 } // namespace
@@ -72,7 +71,7 @@ void SchedeMODELLOSelezione::onLoad() {
     toolkit::assegnaImmaginiToolbar(Toolbar);
     impostaPulsanti();
     Categorie().fillcategorie(categoria);
-    categoria.selectIndex(categoriaIniziale); // a click, which fills the list
+    categoria.selectIndex(Categorie::iniziale); // a click, which fills the list
     fillList();
     variabiliGlobali::nomeModelloSelezionato.clear();
 }
