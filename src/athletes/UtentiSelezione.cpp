@@ -59,9 +59,7 @@ UtentiSelezione::UtentiSelezione()
 }
 
 void UtentiSelezione::onLoad() {
-    caricaImmaginiToolbar(ImageList1, Toolbar, objectName());
-    Toolbar.setImageList(&ImageList1);
-    toolkit::assegnaImmaginiToolbar(Toolbar);
+    vestiToolbar(Toolbar, ImageList1, objectName());
     FillListAtleti();
 }
 

@@ -45,9 +45,7 @@ SchedeSelezione::SchedeSelezione()
 }
 
 void SchedeSelezione::onLoad() {
-    caricaImmaginiToolbar(ImageList1, Toolbar, objectName());
-    Toolbar.setImageList(&ImageList1);
-    toolkit::assegnaImmaginiToolbar(Toolbar);
+    vestiToolbar(Toolbar, ImageList1, objectName());
     fillList();
     ::utente atleta;
     atleta.carica(idUtenteLista);

@@ -64,9 +64,7 @@ mdiScheda::~mdiScheda() = default;
 void mdiScheda::onLoad() {
     ImageListToolBar.clear();
     ImageListToolBar.setImageSize(latoPulsante);
-    caricaImmaginiToolbar(ImageListToolBar, ToolbarSchede, objectName());
-    ToolbarSchede.setImageList(&ImageListToolBar);
-    toolkit::assegnaImmaginiToolbar(ToolbarSchede);
+    vestiToolbar(ToolbarSchede, ImageListToolBar, objectName());
     caricaImmagini();
     setMaximised(true);
 }

@@ -7,8 +7,6 @@ class Toolbar;
 
 class QString;
 
-/// Fills `immagini` with the icons of the toolbar's buttons, in their order, separators left out: the list
-/// that assegnaImmaginiToolbar hands out. `finestra` is the window's name. A missing icon leaves an empty
-/// picture.
-void caricaImmaginiToolbar(toolkit::ImageList& immagini, const toolkit::Toolbar& toolbar,
-                           const QString& finestra);
+/// Fills `immagini` with the icons of the toolbar's buttons, in their order, separators left out, and gives
+/// each button its own. `finestra` is the window's name. A missing icon leaves an empty picture.
+void vestiToolbar(toolkit::Toolbar& toolbar, toolkit::ImageList& immagini, const QString& finestra);

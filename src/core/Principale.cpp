@@ -82,9 +82,7 @@ Principale::Principale()
 }
 
 void Principale::onLoad() {
-    caricaImmaginiToolbar(ImageList1, Toolbar1, objectName());
-    Toolbar1.setImageList(&ImageList1);
-    toolkit::assegnaImmaginiToolbar(Toolbar1);
+    vestiToolbar(Toolbar1, ImageList1, objectName());
     setMaximised(true);
     if (ImageList_OwnerMenu.count() == 0) {
         for (const QString& chiave : chiaviMenu) {

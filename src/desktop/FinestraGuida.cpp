@@ -100,9 +100,7 @@ void FinestraGuida::mostra(const QString& id) {
 
 void FinestraGuida::onLoad() {
     pagine = leggiPagineGuida(host::resolve(guida::file));
-    caricaImmaginiToolbar(ImageList1, Toolbar, objectName());
-    Toolbar.setImageList(&ImageList1);
-    toolkit::assegnaImmaginiToolbar(Toolbar);
+    vestiToolbar(Toolbar, ImageList1, objectName());
     riempiIndice();
 }
 

@@ -53,9 +53,7 @@ void Anteprima::aggiungiBarraDiStato(const QStringList& panels) {
 }
 
 void Anteprima::onLoad() {
-    caricaImmaginiToolbar(ImageList, Toolbar, objectName());
-    Toolbar.setImageList(&ImageList);
-    toolkit::assegnaImmaginiToolbar(Toolbar);
+    vestiToolbar(Toolbar, ImageList, objectName());
 }
 
 double Anteprima::altezzaBarre() const {

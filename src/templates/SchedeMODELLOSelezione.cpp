@@ -66,9 +66,7 @@ SchedeMODELLOSelezione::SchedeMODELLOSelezione()
 }
 
 void SchedeMODELLOSelezione::onLoad() {
-    caricaImmaginiToolbar(ImageList1, Toolbar, objectName());
-    Toolbar.setImageList(&ImageList1);
-    toolkit::assegnaImmaginiToolbar(Toolbar);
+    vestiToolbar(Toolbar, ImageList1, objectName());
     impostaPulsanti();
     Categorie().fillcategorie(categoria);
     categoria.selectIndex(Categorie::iniziale); // a click, which fills the list
