@@ -101,15 +101,6 @@ private Q_SLOTS:
         }
     }
 
-    void longNotes() {
-        Esercizio line = fullLine();
-        line.note = QString(32767, u'\'');
-        QVERIFY(line.save() > 0);
-        line.note += u'x';
-        QCOMPARE(errorOf([&] { return line.save(); }), 6);
-        QCOMPARE(rows(u"SELECT length(Note) FROM Esercizi"), u"32767"_s);
-    }
-
     void badRows_data() {
         QTest::addColumn<QString>("change");
         QTest::addColumn<int>("error");

@@ -177,26 +177,6 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 3);
     }
 
-    void checkListTellsTheUsersTicks() {
-        auto* list = add<CheckListBox>("list", 0, 0, 1845, 2085);
-        for (const char* day : {"Giornaliero", "Nessuno", "Lunedi"}) {
-            list->addItem(day);
-        }
-        show();
-        const QSignalSpy told(list, &CheckListBox::itemClick);
-        list->setChecked(2, true);
-        QCOMPARE(told.count(), 0);
-        const QRect line = list->visualItemRect(list->item(1));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, line.center());
-        QCOMPARE(told.count(), 1);
-        QCOMPARE(told.at(0).at(0).toInt(), 1);
-        QVERIFY(list->checked(1) && list->checked(2) && !list->checked(0));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(line.left() + 8, line.center().y()));
-        QVERIFY(!list->checked(1)); // the box itself answers once, too
-        QCOMPARE(told.count(), 2);
-        QCOMPARE(errorOf([&] { list->setChecked(3, true); }), int(runtime::SubscriptOutOfRange));
-    }
-
     void toolbarAndPanelsByKey() {
         auto* bar = new Toolbar("bar", form_.get());
         bar->addButton("salva", "Salva", "tip");
@@ -228,21 +208,6 @@ private Q_SLOTS:
         panels.setPanel("status", "Totale <b>");
         QCOMPARE(panels.panel("status"), QString("Totale <b>"));
         QCOMPARE(errorOf([&] { panels.setPanel("Status", "x"); }), int(runtime::ElementNotFound));
-    }
-
-    void tabsTellClicksAndSelections() {
-        auto* tabs = add<TabStrip>("tabs", 0, 0, 1965, 315);
-        tabs->addTab("quiverdeck", "Quiver-Deck");
-        tabs->addTab("libero", "Libero");
-        show();
-        const QSignalSpy told(tabs, &TabStrip::clicked);
-        WindowPage(*form_).clickTab("tabs", 2);
-        QCOMPARE(tabs->selectedKey(), QString("libero"));
-        tabs->select("quiverdeck");
-        QCOMPARE(tabs->selectedIndex(), 1);
-        QCOMPARE(told.count(), 2);
-        QCOMPARE(errorOf([&] { tabs->select("x"); }), int(runtime::ElementNotFound));
-        QCOMPARE(cutTexts(*form_), QStringList());
     }
 
     void picturesComeOrTellWhy() {
@@ -303,18 +268,6 @@ private Q_SLOTS:
         QCOMPARE(tree->dragData(), nullptr);
     }
 
-    void picturesTakeDroppedText() {
-        auto* box = add<PictureBox>("box", 0, 0, 2265, 2160);
-        show();
-        const QSignalSpy told(box, &PictureBox::dropped);
-        const WindowPage page(*form_);
-        QVERIFY(!page.drop("box", "17"));
-        box->setDropTarget(true);
-        QVERIFY(page.drop("box", "17"));
-        QCOMPARE(told.count(), 1);
-        QCOMPARE(told.at(0).at(0).toString(), QString("17"));
-    }
-
     void captionsRunIntoFreeRoomThenNarrow() {
         auto* free = add<Label>("free", 120, 0, 900, 255, "Frequenza allenamento settimanale:");
         auto* wrapped = new Label("wrapped", "Fare click sul gruppo muscolare di interesse", form_->client());
@@ -343,20 +296,6 @@ private Q_SLOTS:
         combo->addItem("30000Hz"); // and the check does see what is cut
         combo->show();
         QCOMPARE(cutTexts(*form_).size(), 1);
-    }
-
-    void optionsAndProgress() {
-        OptionButton m("m", "M", form_->client());
-        OptionButton f("f", "F", form_->client());
-        m.setValue(true);
-        f.setValue(true);
-        QVERIFY(!m.value());
-        f.setValue(false);
-        QVERIFY(!m.value() && !f.value());
-        ProgressBar bar("bar", form_->client());
-        bar.setMax(2);
-        bar.setValue(2);
-        QCOMPARE(errorOf([&] { bar.setValue(3); }), int(runtime::InvalidPropertyValue));
     }
 
 private:
