@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int patienceMs = 60000; // for another process or thread on a busy machine
+
 /// A WAV file of `frames` 16-bit frames, with a block in front of the samples that has to be skipped.
 QByteArray wave(quint16 encoding, quint16 bits, int frames) {
     const auto number = [](quint32 value, int bytes) {
@@ -120,9 +122,9 @@ private Q_SLOTS:
     void processes() {
         const QString mark = program().folder() + u"/segno"_s;
         host::startProcess(u"touch"_s, {mark});
-        QTRY_VERIFY(QFile::exists(mark));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(mark), patienceMs);
         host::startCommand(u"touch \"%1 due\""_s.arg(mark));
-        QTRY_VERIFY(QFile::exists(mark + u" due"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(mark + u" due"_s), patienceMs);
         QCOMPARE(errorOf([] { host::startProcess(u"/nessun/programma"_s); }), 53);
         QCOMPARE(errorOf([] { return host::startCommand({}), 0; }), 53);
     }
@@ -142,7 +144,7 @@ private Q_SLOTS:
             answered = second.askToRaise();
         }));
         other->start();
-        QTRY_COMPARE(raised.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(raised.count(), 1, patienceMs);
         other->wait();
         QVERIFY(!secondIsFirst);
         QVERIFY(answered);
