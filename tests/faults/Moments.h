@@ -8,8 +8,8 @@
 #include <random>
 #include <thread>
 
-/// The seeds of a test that kills at random moments: one a row, counted up from the time of day, so that every
-/// run meets others. QUIVERDECK_SEED=n replays the row of that seed alone.
+/// The seeds of a test that kills at random moments: one a row, counted up from the time of day, so that
+/// every run meets others. QUIVERDECK_SEED=n replays the row of that seed alone.
 namespace moments {
 
 inline bool isLong() {
@@ -28,8 +28,8 @@ inline void rows(int count) {
         return;
     }
     const auto now = std::chrono::system_clock::now().time_since_epoch();
-    const auto first = static_cast<unsigned>(
-        std::chrono::duration_cast<std::chrono::seconds>(now).count() % 1'000'000 * 1000);
+    const auto first = static_cast<unsigned>(std::chrono::duration_cast<std::chrono::seconds>(now).count() %
+                                             1'000'000 * 1000);
     for (int i = 0; i < count; ++i)
         row(first + static_cast<unsigned>(i));
 }

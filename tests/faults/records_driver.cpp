@@ -1,5 +1,5 @@
-#include "cards/scheda.h"
 #include "cards/salvaComeModello.h"
+#include "cards/scheda.h"
 #include "platform/host/ProgramDirectory.h"
 #include "platform/host/Services.h"
 #include "templates/SchedaModello.h"
@@ -15,9 +15,9 @@
 
 using namespace Qt::StringLiterals;
 
-// records_driver FOLDER SEED: writes cards, deletes lines and cards and copies templates in that program's folder,
-// without an end. Its standard output says "+SQL" as a statement begins to change the store and "-" once it has
-// returned, each line in one write. A message box ends it: nothing may fail.
+// records_driver FOLDER SEED: writes cards, deletes lines and cards and copies templates in that program's
+// folder, without an end. Its standard output says "+SQL" as a statement begins to change the store and "-"
+// once it has returned, each line in one write. A message box ends it: nothing may fail.
 
 namespace {
 

@@ -29,10 +29,11 @@ private Q_SLOTS:
     void everyStatementThatReturnedIsHeld() {
         QFETCH(const unsigned, seed);
         const ScratchProgram program;
-        program.sql(u"INSERT INTO utenti (nome, cognome) VALUES ('Anna','Rossi'),('Ugo','Verdi');"
-                    "INSERT INTO schede (id_utente, id_cat, Istruttore, FreqAllen) VALUES (1,1,'',3),(2,2,'',3);"
-                    "INSERT INTO Esercizi (NProg, ID_Scheda, ID_Fig, Durata, Frequenza, Ampiezza, isLibero)"
-                    " VALUES (1,1,1,'30 sec','30 Hz','Low',0),(1,2,2,'45 sec','','',0),(2,2,3,'','','',0);"_s);
+        program.sql(
+            u"INSERT INTO utenti (nome, cognome) VALUES ('Anna','Rossi'),('Ugo','Verdi');"
+            "INSERT INTO schede (id_utente, id_cat, Istruttore, FreqAllen) VALUES (1,1,'',3),(2,2,'',3);"
+            "INSERT INTO Esercizi (NProg, ID_Scheda, ID_Fig, Durata, Frequenza, Ampiezza, isLibero)"
+            " VALUES (1,1,1,'30 sec','30 Hz','Low',0),(1,2,2,'45 sec','','',0),(2,2,3,'','','',0);"_s);
         const QString model = program.folder() + u"/modello.ps"_s; // what must be held
         QVERIFY(QFile::copy(program.store(), model));
 
