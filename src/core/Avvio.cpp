@@ -133,14 +133,15 @@ int avvia(int& argc, char** argv) {
         return EXIT_SUCCESS;
     }
     QObject::connect(&instance, &host::SingleInstance::raiseRequested, &application, raiseWindow);
+    // Before anything is written: a catalogue of ours is none for a newer store.
+    if (CopieArchivio::troppoRecente()) {
+        return EXIT_FAILURE;
+    }
     // Only now: a program that runs already has the store open.
     if (installed && !prepareDataFolder()) {
         return EXIT_FAILURE;
     }
 
-    if (CopieArchivio::troppoRecente()) {
-        return EXIT_FAILURE;
-    }
     CopieArchivio copie;
     Main();
     const bool started = Principale::esiste() && Principale::comune().isVisible();
