@@ -80,7 +80,7 @@ void CopieArchivio::finita(int esito) const {
 }
 
 void CopieArchivio::proponi() const {
-    if (store::isGood(archivio())) {
+    if (store::conditionOf(archivio()) != store::Condition::Damaged) {
         return;
     }
     const auto copia = copie_.newestGood();

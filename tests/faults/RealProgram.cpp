@@ -47,6 +47,13 @@ RealProgram::RealProgram() {
     place(HAND, home() + u"/plugins/generic/faulthand.so"_s);
 }
 
+void RealProgram::installCopy() const {
+    place(RENEWER, file(u"quiverdeck-renew-store"_s));
+    QDir(folder).mkpath(u"HELP"_s);
+    if (!QFile(file(u"quiverdeck.installed"_s)).open(QIODevice::WriteOnly))
+        fail(u"no marker"_s);
+}
+
 RealProgram::~RealProgram() {
     if (process_)
         kill();
@@ -125,6 +132,10 @@ QJsonObject RealProgram::texts(const QString& window) {
     return ask(u"texts "_s + window);
 }
 
+QString RealProgram::text(const QString& target) {
+    return ask(u"see "_s + target)[u"text"_s].toString();
+}
+
 bool RealProgram::shows(const QString& target) {
     const QJsonObject seen = ask(u"see "_s + target);
     return seen[u"shows"].toBool() && seen[u"enabled"].toBool();
@@ -134,7 +145,7 @@ void RealProgram::waitFor(const QString& target) {
     const QDeadlineTimer deadline(patience);
     while (!shows(target)) {
         if (deadline.hasExpired())
-            fail(target + u" does not show; a box says: "_s + ask(u"see box"_s)[u"text"].toString());
+            fail(target + u" does not show; a box says: "_s + text(u"box"_s));
         QThread::msleep(glance);
     }
 }
@@ -151,11 +162,11 @@ void RealProgram::write(const QString& target, const QString& text) {
 
 QString RealProgram::answer(const QString& beginning, const QString& button) {
     waitFor(u"box"_s);
-    const QString text = ask(u"see box"_s)[u"text"].toString();
-    if (!text.startsWith(beginning))
-        fail(u"a box says: "_s + text);
+    const QString said = text(u"box"_s);
+    if (!said.startsWith(beginning))
+        fail(u"a box says: "_s + said);
     press(u"box:"_s + button);
-    return text;
+    return said;
 }
 
 void RealProgram::openNewCard() {

@@ -40,7 +40,12 @@ public:
     /// Waits for the end; gives the exit code, -1 for a crash.
     int waitForEnd();
 
+    /// Puts the marker and what an installed copy needs beside the executable: home()/data/quiverdeck is the
+    /// program's directory from the next start on.
+    void installCopy() const;
+
     bool shows(const QString& target);
+    QString text(const QString& target);
     void waitFor(const QString& target);
     QJsonObject texts(const QString& window);
     /// Waits until the target shows, then acts.

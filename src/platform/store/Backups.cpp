@@ -62,14 +62,17 @@ bool isCorruption(int code) {
     return (code & 0xff) == SQLITE_CORRUPT || (code & 0xff) == SQLITE_NOTADB;
 }
 
+bool isHeld(int code) {
+    return (code & 0xff) == SQLITE_BUSY || (code & 0xff) == SQLITE_LOCKED;
+}
+
 /// All pages of one store into another; the result code of the library.
 int copyPages(sqlite3* from, sqlite3* to) {
     sqlite3_backup* backup = sqlite3_backup_init(to, "main", from, "main");
     if (backup == nullptr)
         return sqlite3_errcode(to);
     int code = SQLITE_OK;
-    for (int waited = 0;
-         code == SQLITE_OK || ((code == SQLITE_BUSY || code == SQLITE_LOCKED) && waited < patienceMs);) {
+    for (int waited = 0; code == SQLITE_OK || (isHeld(code) && waited < patienceMs);) {
         code = sqlite3_backup_step(backup, pagesAtOnce);
         if (code != SQLITE_DONE) {
             sqlite3_sleep(pauseMs);
@@ -105,15 +108,32 @@ std::optional<quint32> schemaOf(const QString& path) {
     return qFromBigEndian<quint32>(header.constData() + at);
 }
 
-bool isGood(const QString& path) {
+Condition conditionOf(const QString& path) {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isReadable())
+        return Condition::OutOfReach;
     if (schemaOf(path) != schemaVersion)
-        return false;
+        return Condition::Damaged;
     const Database database = open(path);
-    return database &&
-           first(database.get(), "SELECT count(*) FROM sqlite_master WHERE type='table' AND lower(name) IN "
-                                 "('utenti','schede','esercizi','schedemodello','esercizimodello','figure',"
-                                 "'categorie','parametri')") == "8" &&
-           first(database.get(), "PRAGMA quick_check(1)") == "ok";
+    if (!database)
+        return Condition::Damaged;
+    for (const auto& [question, answer] :
+         {std::pair("SELECT count(*) FROM sqlite_master WHERE type='table' AND lower(name) IN "
+                    "('utenti','schede','esercizi','schedemodello','esercizimodello','figure',"
+                    "'categorie','parametri')",
+                    "8"),
+          std::pair("PRAGMA quick_check(1)", "ok")}) {
+        const auto found = first(database.get(), question);
+        if (!found && isHeld(sqlite3_errcode(database.get())))
+            return Condition::OutOfReach;
+        if (found != answer)
+            return Condition::Damaged;
+    }
+    return Condition::Good;
+}
+
+bool isGood(const QString& path) {
+    return conditionOf(path) == Condition::Good;
 }
 
 Backups::Backups(QString store, QString folder, Clock clock)
@@ -125,8 +145,12 @@ bool Backups::upToDate() const {
 }
 
 Backups::Outcome Backups::run() const {
-    if (upToDate())
-        return isGood(store_) ? Outcome::Unchanged : Outcome::Damaged;
+    if (upToDate()) {
+        const Condition condition = conditionOf(store_);
+        if (condition == Condition::OutOfReach)
+            return Outcome::Failed;
+        return condition == Condition::Good ? Outcome::Unchanged : Outcome::Damaged;
+    }
     const QFileInfo store(store_);
     const QDateTime state = store.lastModified(); // a later change makes another copy next time
     const Database from = open(store_);

@@ -15,8 +15,14 @@ inline constexpr quint32 schemaVersion = 1;
 /// The schema's number as the file's header tells it; nothing if the file is no store.
 std::optional<quint32> schemaOf(const QString& path);
 
-/// Reads the whole file: a store of this program, with its tables, that passes SQLite's quick check. False
-/// for a missing file too, and for one that another program holds.
+enum class Condition {
+    Good,      ///< a store of this program, with its tables, that passes SQLite's quick check
+    Damaged,   ///< or missing
+    OutOfReach ///< another program holds it, or its rights forbid to read it: nothing is known of it
+};
+
+/// Reads the whole file, if another program does not hold it for longer than some seconds.
+Condition conditionOf(const QString& path);
 bool isGood(const QString& path);
 
 /// Dated copies of the store in a folder of their own, all of them readable by their owner alone. The last
