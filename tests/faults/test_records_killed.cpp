@@ -24,7 +24,7 @@ struct Said {
 class TestRecordsKilled : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void everyStatementThatReturnedIsHeld_data() { moments::rows(200); }
+    void everyStatementThatReturnedIsHeld_data() { moments::rows(moments::isLong() ? 200 : 60); }
 
     void everyStatementThatReturnedIsHeld() {
         QFETCH(const unsigned, seed);
