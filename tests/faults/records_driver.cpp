@@ -51,26 +51,31 @@ public:
     }
 };
 
+/// Writes, rewrites and deletes cards, and copies templates both ways as the editor does.
 class Acts {
 public:
     explicit Acts(unsigned seed) : random_(seed) {}
 
     void next() {
-        switch (upTo(5)) {
-        case 0:
-            newCard();
-            break;
-        case 1:
-            rewriteCard();
-            break;
-        case 2:
-            deleteCard();
-            break;
-        case 3:
-            cardFromTemplate();
-            break;
-        default:
-            templateFromCard();
+        const int act = upTo(5);
+        scheda card;
+        const qint32 key = anyOf(u"id_scheda"_s, u"schede"_s);
+        if (key == 0 || act < 2) {
+            if (act == 0) {
+                SchedaModello from;
+                from.carica(anyOf(u"id_Scheda"_s, u"schedeModello"_s));
+                from.caricaEsercizi();
+                from.travasaTo(card, false);
+            }
+            card.id_utente = 1;
+            card.categoria = u"Forza"_s;
+            card.PeriodoDal = u"01/02/2026"_s;
+            rewrite(card);
+        } else if (act == 2) {
+            card.Elimina(key);
+        } else if (card.carica(key)) {
+            card.caricaEsercizi();
+            act == 3 ? rewrite(card) : copyToTemplate(card);
         }
     }
 
@@ -88,70 +93,27 @@ private:
         return rows(key).toInt32();
     }
 
-    void addLines(SchedaApribile& card) {
+    void rewrite(scheda& card) {
+        if (card.esercizi->Count() > 0)
+            card.EliminaEsercizio(static_cast<qint16>(1 + upTo(card.esercizi->Count())));
         for (int lines = 1 + upTo(4); lines > 0; --lines) {
             auto line = std::make_shared<Esercizio>();
             line->id_fig = 1 + upTo(4);
-            line->durata = u"30 sec"_s;
             line->serie = static_cast<quint8>(upTo(100));
             line->note = word();
             card.esercizi->Add(line);
         }
-    }
-
-    void fill(scheda& card) {
-        card.id_utente = 1;
-        card.categoria = u"Forza"_s;
-        card.PeriodoDal = u"01/02/2026"_s;
-        card.Obiettivo = word();
         card.note = word();
-    }
-
-    void newCard() {
-        scheda card;
-        fill(card);
-        addLines(card);
         card.save();
     }
 
-    void rewriteCard() {
-        scheda card;
-        if (const qint32 key = anyOf(u"id_scheda"_s, u"schede"_s); key != 0 && card.carica(key)) {
-            card.caricaEsercizi();
-            if (card.esercizi->Count() > 0)
-                card.EliminaEsercizio(static_cast<qint16>(1 + upTo(card.esercizi->Count())));
-            addLines(card);
-            card.note = word();
-            card.save();
-        }
-    }
-
-    void deleteCard() {
-        if (const qint32 key = anyOf(u"id_scheda"_s, u"schede"_s); key != 0)
-            scheda().Elimina(key);
-    }
-
-    void cardFromTemplate() {
-        SchedaModello from;
-        from.carica(anyOf(u"id_Scheda"_s, u"schedeModello"_s));
-        from.caricaEsercizi();
-        scheda card;
-        from.travasaTo(card, false);
-        fill(card);
-        card.save();
-    }
-
-    /// As the editor does: the template is stored empty first.
-    void templateFromCard() {
-        scheda card;
-        if (const qint32 key = anyOf(u"id_scheda"_s, u"schede"_s); key != 0 && card.carica(key)) {
-            card.caricaEsercizi();
-            SchedaModello fresh;
-            fresh.descrizione = word();
-            fresh.categoria = card.categoria;
-            fresh.save();
-            salvaComeModello(card, fresh);
-        }
+    /// The template is stored empty first.
+    void copyToTemplate(scheda& card) {
+        SchedaModello fresh;
+        fresh.descrizione = word();
+        fresh.categoria = card.categoria;
+        fresh.save();
+        salvaComeModello(card, fresh);
     }
 
     std::mt19937 random_;

@@ -1,6 +1,5 @@
 #include "faults/Moments.h"
 #include "faults/RealProgram.h"
-#include "faults/StoreContents.h"
 
 #include <QTest>
 
