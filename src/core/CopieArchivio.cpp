@@ -70,7 +70,15 @@ void CopieArchivio::copia() {
 
 void CopieArchivio::finita(int esito) const {
     if (esito == static_cast<int>(store::Backups::Outcome::Damaged)) {
-        proponi();
+        if (copie_.newestGood()) {
+            proponi();
+            return;
+        }
+        host::message(u"L’archivio «%1» è danneggiato e non ne esiste una copia di sicurezza in buono "
+                      u"stato.\n\nChiudere "
+                      "il programma, mettere da parte una copia del file e farlo esaminare prima di lavorare "
+                      "ancora."_s.arg(ModuloBase::nomeArchivio()),
+                      host::Icon::Exclamation);
     } else if (esito == static_cast<int>(store::Backups::Outcome::Failed)) {
         host::message(
             u"La copia di sicurezza dell’archivio non è riuscita. Controllare lo spazio sul disco e i "

@@ -17,8 +17,8 @@ public:
     static bool troppoRecente();
 
     /// Has the store copied and checked by quiverdeck-backup, which stands beside the executable, while this
-    /// one goes on. A damaged store is told of, as by `proponi`. A copy under way goes on when this program
-    /// ends.
+    /// one goes on. A damaged store is told of, as by `proponi` or, without a good copy, as it is. A copy
+    /// under way goes on when this program ends.
     void copia();
 
     /// With a store that is missing or damaged, and a good copy of it: tells the copy's date and offers to

@@ -216,6 +216,17 @@ private Q_SLOTS:
         });
     }
 
+    void damageWithoutACopyIsToldOf() {
+        play([] {
+            RealProgram program;
+            page(u"Esercizi"_s, false)(program);
+            program.start();
+            program.answer(u"L’archivio «splash.ps» è danneggiato e non ne esiste una copia"_s);
+            program.press(u"Principale/esci"_s);
+            QCOMPARE(program.waitForEnd(), EXIT_SUCCESS);
+        });
+    }
+
     void withoutAGoodCopyNothingIsOffered() {
         play([] {
             RealProgram program;
