@@ -61,8 +61,9 @@ private Q_SLOTS:
         QVERIFY(again.carica(1));
         QCOMPARE(header(again), u"Ugo|31/12/2005|01/01/1980|Forza|l`anca|è|010000000|Ada|Rossi|0|1|1"_s);
         QVERIFY(!again.periodoDalNullo() && again.periodoAlNullo());
+        again.PeriodoDal = u"01/01/1980"_s; // the stand-in's own date, but the store had another
         again.PeriodoAl = u"02/01/1980"_s;
-        QVERIFY(!again.periodoAlNullo());
+        QVERIFY(!again.periodoDalNullo() && !again.periodoAlNullo());
     }
 
     void statements() {

@@ -5,7 +5,6 @@
 #include "platform/host/Application.h"
 #include "platform/host/Settings.h"
 #include "platform/runtime/Dates.h"
-#include "support/FakeControls.h"
 #include "support/RecordsTest.h"
 
 #include <QDir>
@@ -178,19 +177,6 @@ private Q_SLOTS:
         QFile file(program().settingsFolder() + u"/Quiver-Deck.ini"_s);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().startsWith("[General]\nPath="));
-    }
-
-    void listRoutines() {
-        FakeItemList list;
-        list.items = {u"Uno"_s, u"Due"_s};
-        for (const auto& [text, missing] :
-             {std::pair(u"Due"_s, false), std::pair(u"due"_s, true), std::pair(u"Du"_s, true)}) {
-            list.shown = text;
-            QCOMPARE(nonInLista(list), missing);
-        }
-        QCOMPARE(arrotondaSu(1.2), 2);
-        QCOMPARE(arrotondaSu(-1.2), -1);
-        QCOMPARE(errorOf([] { return arrotondaSu(3e9); }), 6);
     }
 
     void searchInList_data() {

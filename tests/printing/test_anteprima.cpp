@@ -171,9 +171,11 @@ private Q_SLOTS:
         move(500, Qt::NoButton);
         QTest::mousePress(&canvas, button, {}, from);
         move(490, button);
-        QTEST(bar.value() == 400, "moves"); // 10 pixels up are 400 twips on
-        move(2000, button);
-        QTEST(bar.value() == 400, "moves"); // a step past the end is dropped, not clamped
+        QTEST(bar.value() == 400, "moves");          // 10 pixels up are 400 twips on
+        for (const int pastTheEnd : {2000, -2000}) { // dropped, not clamped
+            move(pastTheEnd, button);
+            QTEST(bar.value() == 400, "moves");
+        }
         QTest::mouseRelease(&canvas, button, {}, from);
     }
 
