@@ -26,10 +26,6 @@ QListWidgetItem& CheckListBox::at(int index) const {
     return *found;
 }
 
-QString CheckListBox::text(int index) const {
-    return at(index).text();
-}
-
 bool CheckListBox::checked(int index) const {
     return at(index).checkState() == Qt::Checked;
 }

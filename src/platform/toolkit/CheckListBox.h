@@ -15,7 +15,6 @@ public:
 
     void addItem(const QString& text);
     int count() const override { return QListWidget::count(); }
-    QString text(int index) const;
     /// Raise runtime::SubscriptOutOfRange for an index that is not there.
     bool checked(int index) const override;
     void setChecked(int index, bool on) override;

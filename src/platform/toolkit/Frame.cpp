@@ -10,11 +10,6 @@ Frame::Frame(const QString& name, QWidget* parent, const QString& caption)
     setObjectName(name);
 }
 
-void Frame::setCaption(const QString& caption) {
-    caption_ = caption;
-    update();
-}
-
 void Frame::setBorder(bool border) {
     border_ = border;
     update();

@@ -12,7 +12,6 @@ public:
     explicit Frame(const QString& name, QWidget* parent, const QString& caption = {});
 
     QString caption() const { return caption_; }
-    void setCaption(const QString& caption);
     void setBorder(bool border);
 
 Q_SIGNALS:

@@ -38,14 +38,6 @@ void TextArea::report() {
     }
 }
 
-void TextArea::select(int start, int length) {
-    const int last = document()->characterCount() - 1;
-    QTextCursor cursor = textCursor();
-    cursor.setPosition(std::clamp(start, 0, last));
-    cursor.setPosition(std::clamp(start + length, 0, last), QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
-}
-
 QString TextArea::fitting(const QString& text) const {
     const QTextCursor cursor = textCursor();
     const qsizetype kept =

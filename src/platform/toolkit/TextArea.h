@@ -13,7 +13,6 @@ public:
     QString text() const { return toPlainText(); }
     /// `changed` comes at once, before the call returns, and only for another text.
     void setText(const QString& text);
-    void select(int start, int length);
     /// Typed and pasted straight apostrophes become typographic ones.
     void guardApostrophes() { guarded_ = true; }
 
