@@ -6,7 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QPointer>
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -22,10 +22,8 @@ QString cartella() {
 
 QString domanda(const store::Backups::Copy& copia) {
     return u"L’archivio «%1» manca o è danneggiato.\n\nLa copia di sicurezza più recente in buono stato è "
-           u"del %2 "
-           "alle %3. Rimetterla al suo posto?\n\nCiò che è stato salvato dopo quel momento non c’è nella "
-           "copia; il "
-           "file danneggiato resta accanto al nuovo, con un altro nome."_s.arg(
+           "del %2 alle %3. Rimetterla al suo posto?\n\nCiò che è stato salvato dopo quel momento non c’è "
+           "nella copia; il file danneggiato resta accanto al nuovo, con un altro nome."_s.arg(
                ModuloBase::nomeArchivio(), copia.taken.toString(u"dd/MM/yyyy"_s),
                copia.taken.toString(u"HH:mm"_s));
 }

@@ -2,11 +2,6 @@
 
 #include "platform/store/Backups.h"
 
-#include <QProcess>
-
-#include <functional>
-#include <memory>
-
 /// The backup copies of the program's store, in the folder `backup` beside it.
 class CopieArchivio {
 public:

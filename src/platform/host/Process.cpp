@@ -18,10 +18,4 @@ void startProcess(const QString& program, const QStringList& arguments) {
                        runtime::standardDescription(runtime::FileNotFound) + QStringLiteral(": ") + program);
 }
 
-void startCommand(const QString& commandLine) {
-    QStringList parts = QProcess::splitCommand(commandLine);
-    const QString program = parts.isEmpty() ? QString() : parts.takeFirst();
-    startProcess(program, parts);
-}
-
 } // namespace host

@@ -8,7 +8,4 @@ namespace host {
 /// Starts a program beside this one and does not wait for it; raises error 53 if it cannot be started.
 void startProcess(const QString& program, const QStringList& arguments = {});
 
-/// The same for a command line, split at blanks outside double quotes.
-void startCommand(const QString& commandLine);
-
 } // namespace host

@@ -22,8 +22,6 @@ public:
     Variant(QDate value);
 
     bool isNull() const { return std::holds_alternative<std::monostate>(value_); }
-    bool isText() const { return std::holds_alternative<QString>(value_); }
-    bool isDate() const { return std::holds_alternative<QDateTime>(value_); }
     /// A number, a Boolean, or a text that is a number as a whole.
     bool isNumeric() const;
 
@@ -36,7 +34,6 @@ public:
     bool toBoolean() const;
     /// A date in UTC; texts are read day first, numbers as day numbers.
     QDateTime toDateTime() const;
-    QDate toDate() const { return toDateTime().date(); }
 
     bool operator==(const Variant& other) const = default;
 

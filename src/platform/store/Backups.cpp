@@ -1,5 +1,7 @@
 #include "platform/store/Backups.h"
 
+#include "platform/store/Handles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -7,11 +9,9 @@
 #include <QtEndian>
 
 #include <fcntl.h>
-#include <sqlite3.h>
 #include <unistd.h>
 
 #include <cstdio>
-#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -25,15 +25,6 @@ constexpr int pagesAtOnce = 512; // between two steps other programs may write
 constexpr int pauseMs = 5;
 constexpr int patienceMs = 20000; // for a store that another program holds
 const QString stampFormat = u"yyyy-MM-dd_HH-mm-ss"_s;
-
-struct CloseDatabase {
-    void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
-};
-using Database = std::unique_ptr<sqlite3, CloseDatabase>;
-
-struct Finalize {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
 
 /// Reading and writing: a journal left by a crash can be played back then. Null on a failure.
 Database open(const QString& path) {
@@ -52,7 +43,7 @@ std::optional<QByteArray> first(sqlite3* database, const char* sql) {
     sqlite3_stmt* handle = nullptr;
     if (sqlite3_prepare_v2(database, sql, -1, &handle, nullptr) != SQLITE_OK)
         return {};
-    const std::unique_ptr<sqlite3_stmt, Finalize> statement(handle);
+    const Statement statement(handle);
     if (sqlite3_step(handle) != SQLITE_ROW)
         return {};
     return QByteArray(reinterpret_cast<const char*>(sqlite3_column_text(handle, 0)));

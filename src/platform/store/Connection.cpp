@@ -2,10 +2,10 @@
 
 #include "platform/store/Dialect.h"
 #include "platform/store/Error.h"
+#include "platform/store/Handles.h"
 
 #include <QFile>
 
-#include <sqlite3.h>
 #include <sys/stat.h>
 
 #include <utility>
@@ -36,15 +36,6 @@ bool readStamp(const QByteArray& path, Stamp& stamp) {
     stamp = {status.st_dev, status.st_ino, status.st_size, status.st_mtim};
     return true;
 }
-
-struct Finalize {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
-
-struct CloseDatabase {
-    void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
-};
 
 ColumnType declaredType(const char* declared) {
     if (!declared)
@@ -171,7 +162,7 @@ private:
 
     QByteArray path_;
     Stamp stamp_;
-    std::unique_ptr<sqlite3, CloseDatabase> database_;
+    Database database_;
 };
 
 Connection::Connection(QString path) : path_(std::move(path)) {}
