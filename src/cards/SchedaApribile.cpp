@@ -35,12 +35,36 @@ void SchedaApribile::setCategoriaPerNome(const QString& nome) {
     id_cat = chiave.toInt32();
 }
 
-void SchedaApribile::travasaRiga(SchedaApribile& s, const Esercizio& riga, int posizione) {
-    auto copia = std::make_shared<Esercizio>();
-    copia->nuovoDaEsercizio(riga);
-    s.esercizi->Add(copia);
-    // The line at the position, which is the copy only while `s` started empty.
-    Esercizio& pronta = *s.esercizi->Item(posizione);
-    pronta.ct = 0;
-    pronta.isModello = s.isModello;
+void SchedaApribile::salvaEsercizi() {
+    const qint16 ultimo = numeroEsercizi();
+    for (int i = 1; i <= ultimo; ++i) {
+        Esercizio& riga = *esercizi->Item(i);
+        if (!daSalvare(riga))
+            continue;
+        riga.nprog = i;
+        if (isModello) // a card leaves the flag of its lines alone
+            riga.isModello = true;
+        riga.id_scheda = id_scheda;
+        riga.save();
+    }
+}
+
+void SchedaApribile::travasaTestata(SchedaApribile& s, bool soloEsercizi) const {
+    if (!soloEsercizi) {
+        s.id_cat = id_cat;
+        s.categoria = categoria;
+    }
+    s.note = note;
+}
+
+void SchedaApribile::travasaRighe(SchedaApribile& s) const {
+    const qint16 n = numeroEsercizi(); // before the copies come in, if the two share one collection
+    for (int i = 1; i <= n; ++i) {
+        auto copia = std::make_shared<Esercizio>();
+        copia->nuovoDaEsercizio(*esercizi->Item(i));
+        s.esercizi->Add(copia);
+        Esercizio& pronta = *s.esercizi->Item(i);
+        pronta.ct = 0;
+        pronta.isModello = s.isModello;
+    }
 }

@@ -47,17 +47,25 @@ public:
     /// Sets `id_cat` from a category's name, an empty one meaning `categoria`; error 513 if unknown.
     void setCategoriaPerNome(const QString& nome);
 
+    /// A line that has a figure or is free text; the others are not stored.
+    static bool daSalvare(const Esercizio& riga) { return riga.id_fig != 0 || riga.isLibero; }
+
 protected:
     SchedaApribile();
 
-    /// A line that has a figure or is free text; the others are not stored.
-    static bool daSalvare(const Esercizio& riga) { return riga.id_fig != 0 || riga.isLibero; }
-    /// The count of the lines, in the 16 bits of the loop counters.
-    qint16 numeroEsercizi() const;
-    /// Adds a copy of `riga` to `s` and readies the line at `posizione` of `s` for its table.
-    static void travasaRiga(SchedaApribile& s, const Esercizio& riga, int posizione);
+    /// Stores the lines under the present key, numbered by position. A line that is not stored keeps its
+    /// place, so the stored numbers may have a gap.
+    void salvaEsercizi();
+    /// The first half of `travasaTo`: notes and, unless `soloEsercizi`, the category.
+    void travasaTestata(SchedaApribile& s, bool soloEsercizi) const;
+    /// The other half: adds a copy of each line to `s`, and readies the line at the same position of `s` for
+    /// its table. That line is the copy only while `s` started empty.
+    void travasaRighe(SchedaApribile& s) const;
     db& archivio() const { return *archivio_; }
 
 private:
+    /// The count of the lines, in the 16 bits of the loop counters.
+    qint16 numeroEsercizi() const;
+
     db* archivio_;
 };

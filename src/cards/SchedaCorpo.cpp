@@ -2,7 +2,6 @@
 
 #include "cards/Esercizio.h"
 #include "cards/SchedaApribile.h"
-#include "cards/ValoriEsercizio.h"
 #include "cards/mdiScheda.h"
 #include "core/f_library.h"
 #include "platform/host/Services.h"
@@ -89,7 +88,7 @@ void SchedaCorpo::collega(int i) {
 void SchedaCorpo::controlla(int i) {
     RigaEsercizio& r = riga.at(static_cast<std::size_t>(i));
     for (toolkit::Combo* elenco : r.elenchi()) {
-        validazione.add(elenco, [elenco] { return valoriEsercizio::inElenco(*elenco); });
+        validazione.add(elenco, [elenco] { return valoreInLista(*elenco); });
     }
     validazione.add(&r.recuperoSec, [&r] {
         return runtime::strictNumber(r.recuperoSec.text()) <= massimoSecondi ||

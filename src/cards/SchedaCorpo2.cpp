@@ -3,6 +3,7 @@
 #include "cards/Esercizio.h"
 #include "cards/SchedaApribile.h"
 #include "cards/ValoriEsercizio.h"
+#include "core/f_library.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/Twips.h"
@@ -112,7 +113,7 @@ void SchedaCorpo2::nomina() {
 
 void SchedaCorpo2::controlla() {
     for (toolkit::Combo* elenco : {&durata, &frequenza, &modalita}) {
-        validazione.add(elenco, [elenco] { return valoriEsercizio::inElenco(*elenco); });
+        validazione.add(elenco, [elenco] { return valoreInLista(*elenco); });
         elenco->guardApostrophes(); // these texts go into SQL as they stand
     }
     for (toolkit::TextBox* campo : {&ampiezza, &peso}) {

@@ -6,7 +6,6 @@
 #include "cards/mdiScheda.h"
 #include "cards/scheda.h"
 #include "core/f_library.h"
-#include "platform/host/Services.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Dates.h"
 #include "platform/runtime/Error.h"
@@ -30,8 +29,6 @@ const QString frequenzaUsuale = QStringLiteral("3");
 
 /// Nine days fill the list; pixels.
 constexpr QSize altezzaGiorno{100, 15};
-
-const QString valoreFuoriLista = QStringLiteral("Selezionare un valore tra quelli disponibili!");
 
 } // namespace
 
@@ -178,13 +175,7 @@ void SchedaIntestazione::collega() {
 
 void SchedaIntestazione::controlla() {
     for (toolkit::Combo* elenco : {&categoria, &FreqAllen}) {
-        validazione.add(elenco, [elenco] {
-            if (!nonInLista(*elenco)) {
-                return true;
-            }
-            host::message(valoreFuoriLista, host::Icon::Critical);
-            return false;
-        });
+        validazione.add(elenco, [elenco] { return valoreInLista(*elenco); });
     }
 }
 

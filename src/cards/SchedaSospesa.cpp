@@ -297,11 +297,10 @@ void RigheEliminate::guarda(const std::shared_ptr<SchedaApribile>& scheda) {
     if (std::equal(viste_.begin(), viste_.end(), ora.begin(), ora.end()))
         return;
     for (const auto& vista : viste_) {
-        const bool cercata = vista->id_fig != 0 || vista->isLibero;
         const bool presente = std::any_of(ora.begin(), ora.end(), [&vista](const auto& riga) {
             return riga == vista || (vista->ct != 0 && riga->ct == vista->ct);
         });
-        if (cercata && !presente)
+        if (SchedaApribile::daSalvare(*vista) && !presente)
             righe_.push_back(*vista);
     }
     viste_.assign(ora.begin(), ora.end());

@@ -1,9 +1,5 @@
 #include "cards/ValoriEsercizio.h"
 
-#include "core/f_library.h"
-#include "platform/host/Services.h"
-#include "platform/toolkit/Combo.h"
-
 using namespace Qt::StringLiterals;
 
 QStringList valoriEsercizio::durate() {
@@ -21,12 +17,4 @@ QStringList valoriEsercizio::ampiezze() {
 QStringList valoriEsercizio::modalita() {
     return {u"Statico a carico naturale"_s, u"Statico a carico aggiuntivo"_s, u"Dinamico a carico naturale"_s,
             u"Dinamico a carico aggiuntivo"_s, u"Combinata"_s};
-}
-
-bool valoriEsercizio::inElenco(const toolkit::Combo& elenco) {
-    if (!nonInLista(elenco)) {
-        return true;
-    }
-    host::message(u"Selezionare un valore tra quelli disponibili!"_s, host::Icon::Critical);
-    return false;
 }

@@ -94,16 +94,7 @@ qint32 scheda::save() {
     } else {
         archivio().Execute(aggiornamento());
     }
-    // A line that is not stored keeps its place, so the stored numbers may have a gap.
-    const qint16 ultimo = numeroEsercizi();
-    for (int i = 1; i <= ultimo; ++i) {
-        Esercizio& riga = *esercizi->Item(i);
-        if (daSalvare(riga)) {
-            riga.nprog = i;
-            riga.id_scheda = id_scheda;
-            riga.save();
-        }
-    }
+    salvaEsercizi();
     isSaved = true;
     return nuova;
 }
@@ -114,14 +105,8 @@ bool scheda::Elimina(qint32 chiave) {
 }
 
 bool scheda::travasaTo(SchedaApribile& s, bool soloEsercizi) {
-    if (!soloEsercizi) {
-        s.id_cat = id_cat;
-        s.categoria = categoria;
-    }
-    s.note = note;
+    travasaTestata(s, soloEsercizi);
     s.esercizi = esercizi; // from here on the two share one collection
-    const qint16 n = numeroEsercizi();
-    for (int i = 1; i <= n; ++i)
-        travasaRiga(s, *esercizi->Item(i), i);
+    travasaRighe(s);
     return true;
 }

@@ -1,5 +1,6 @@
 #include "core/f_library.h"
 
+#include "platform/host/Services.h"
 #include "platform/runtime/Conversions.h"
 
 #include <cmath>
@@ -11,6 +12,13 @@ bool nonInLista(const host::ItemList& combo) {
             return false;
     }
     return true;
+}
+
+bool valoreInLista(const host::ItemList& combo) {
+    if (!nonInLista(combo))
+        return true;
+    host::message(QStringLiteral("Selezionare un valore tra quelli disponibili!"), host::Icon::Critical);
+    return false;
 }
 
 qint32 arrotondaSu(double x) {

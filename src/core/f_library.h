@@ -9,6 +9,9 @@
 /// Whether the list's text is none of its items; exact comparison.
 bool nonInLista(const host::ItemList& combo);
 
+/// Whether a choice may be left: its text is one of its items. Else a critical box says so.
+bool valoreInLista(const host::ItemList& combo);
+
 /// The smallest whole number not below `x`; error 6 outside 32 bits.
 qint32 arrotondaSu(double x);
 

@@ -54,16 +54,7 @@ qint32 SchedaModello::save() {
                            db::convBooleanToDB(preimpostata) + u",[note]='"_s + db::correctApici(note) +
                            u"' WHERE id_Scheda="_s + QString::number(id_scheda));
     }
-    const qint16 ultimo = numeroEsercizi();
-    for (int i = 1; i <= ultimo; ++i) {
-        Esercizio& riga = *esercizi->Item(i);
-        if (daSalvare(riga)) {
-            riga.nprog = i;
-            riga.isModello = true;
-            riga.id_scheda = id_scheda;
-            riga.save();
-        }
-    }
+    salvaEsercizi();
     isSaved = true;
     return nuova;
 }
@@ -74,13 +65,7 @@ bool SchedaModello::Elimina(qint32 chiave) {
 }
 
 bool SchedaModello::travasaTo(SchedaApribile& s, bool soloEsercizi) {
-    if (!soloEsercizi) {
-        s.id_cat = id_cat;
-        s.categoria = categoria;
-    }
-    s.note = note;
-    const qint16 n = numeroEsercizi();
-    for (int i = 1; i <= n; ++i)
-        travasaRiga(s, *esercizi->Item(i), i);
+    travasaTestata(s, soloEsercizi);
+    travasaRighe(s);
     return true;
 }

@@ -53,13 +53,7 @@ SchedeMODELLOSelezione::SchedeMODELLOSelezione()
     setTabOrder(&categoria, &LW);
 
     auto* controlli = new toolkit::Validation(this);
-    controlli->add(&categoria, [this] {
-        if (!nonInLista(categoria)) {
-            return true;
-        }
-        host::message(u"Selezionare un valore tra quelli disponibili!"_s, host::Icon::Critical);
-        return false;
-    });
+    controlli->add(&categoria, [this] { return valoreInLista(categoria); });
     connect(&categoria, &toolkit::Combo::clicked, this, &SchedeMODELLOSelezione::fillList);
     connect(&LW, &toolkit::ReportList::doubleClick, this, &SchedeMODELLOSelezione::seleziona);
     connect(&Toolbar, &toolkit::Toolbar::buttonClick, this, &SchedeMODELLOSelezione::Toolbar_ButtonClick);
