@@ -67,6 +67,10 @@ bool RipresaScheda::scrivi() {
     if (stato == scritto_) {
         return true;
     }
+    if (scritto_.isEmpty() && file_.leggi()) {
+        // Of an earlier run: when it was offered the store could not be read.
+        file_.mettiDaParte(QStringLiteral("precedente"));
+    }
     if (!file_.scrivi(SchedaSospesa::file(stato, QDateTime::currentDateTime()))) {
         return false;
     }
@@ -140,6 +144,7 @@ void RipresaScheda::riapri(SchedaSospesa& sospesa) {
     for (const auto& riga : *sospesa.scheda->esercizi) {
         righe.push_back(*riga);
     }
+    scritto_ = sospesa.stato();
     riaprendo_ = true; // and stays so if an error ends the program on the way
     mdiScheda::comune().riapri(sospesa.scheda);
     finestre::nascondiPrincipale();

@@ -10,7 +10,7 @@
 class RipresaScheda {
 public:
     /// Writes the file if the event just over has changed anything, and removes it once the editor is left.
-    /// An unwritable file is told of once.
+    /// The card of an earlier run is never written over, but put aside. An unwritable file is told of once.
     void dopoEvento();
     /// The same at the moment of a fatal report: no box, no exception.
     void primaDellaFine() noexcept;

@@ -208,6 +208,17 @@ private Q_SLOTS:
         QCOMPARE(messiDaParte(e, motivo).size(), 1);
     }
 
+    void anEarlierCardIsNotWrittenOver() {
+        EditorAperto e;
+        QVERIFY(FileSospeso().scrivi("una scheda mai ripresa"));
+        const AlLavoro custode;
+        e.apriNuova();
+        QVERIFY(SchedaSospesa::leggi(contenuto()));
+        const QStringList altri = messiDaParte(e, u"precedente"_s);
+        QCOMPARE(altri.size(), 1);
+        QCOMPARE(FileSospeso(e.programma.folder() + u'/' + altri.first()).leggi(), "una scheda mai ripresa");
+    }
+
     void fatalReportFindsTheStateWritten() {
         EditorAperto e;
         const ExpectedFatal fatale;
