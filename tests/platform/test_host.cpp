@@ -26,7 +26,7 @@ QByteArray wave(quint16 encoding, quint16 bits, int frames) {
             result += static_cast<char>(value >> (8 * i));
         return result;
     };
-    const QByteArray samples(frames * 2 * (bits / 8), '\x80');
+    const QByteArray samples(qsizetype{frames} * 2 * (bits / 8), '\x80');
     const QByteArray body = QByteArray("WAVEfmt ") + number(16, 4) + number(encoding, 2) + number(2, 2) +
                             number(8000, 4) + number(8000U * 2 * (bits / 8), 4) + number(4, 2) +
                             number(bits, 2) + "LIST" + number(3, 4) + QByteArray("abc\0", 4) + "data" +
