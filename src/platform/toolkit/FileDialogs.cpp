@@ -3,9 +3,9 @@
 #include "platform/host/Application.h"
 #include "platform/pictures/PictureFile.h"
 #include "platform/runtime/Error.h"
+#include "platform/toolkit/DialogOwner.h"
 #include "platform/toolkit/Hourglass.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -61,7 +61,7 @@ QStringList FileDialogs::nameFilters(const QString& filter) {
 }
 
 QString FileDialogs::openFile(const QString& filter, const QString& folder) {
-    QFileDialog dialog(QApplication::activeWindow(), host::title());
+    QFileDialog dialog(dialogOwner(), host::title());
     dialog.setObjectName(QStringLiteral("fileDialog"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);

@@ -1,9 +1,9 @@
 #include "platform/toolkit/MessageBoxes.h"
 
 #include "platform/host/Application.h"
+#include "platform/toolkit/DialogOwner.h"
 #include "platform/toolkit/Hourglass.h"
 
-#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -31,7 +31,7 @@ QMessageBox::Icon picture(host::Icon icon) {
 
 host::Answer MessageBoxes::show(host::Icon icon, const QString& text, host::Buttons buttons) {
     const Hourglass::Pause pause;
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(dialogOwner());
     box.setObjectName(QStringLiteral("messageBox"));
     box.setWindowTitle(host::title());
     box.setIcon(picture(icon));

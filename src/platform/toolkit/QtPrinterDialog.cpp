@@ -1,9 +1,9 @@
 #include "platform/toolkit/QtPrinterDialog.h"
 
 #include "platform/host/Application.h"
+#include "platform/toolkit/DialogOwner.h"
 #include "platform/toolkit/Hourglass.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -29,7 +29,7 @@ bool QtPrinterDialog::choose(QPrinter& printer, PrintRange& range) {
     if (lastWasPdf_) {
         printer.setOutputFileName(proposed);
     }
-    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    QPrintDialog dialog(&printer, dialogOwner());
     dialog.setObjectName(QStringLiteral("printerDialog"));
     dialog.setOption(QAbstractPrintDialog::PrintToFile, true);
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, true);

@@ -1,5 +1,6 @@
 #include "platform/toolkit/Button.h"
 #include "platform/toolkit/ChildFrame.h"
+#include "platform/toolkit/DialogOwner.h"
 #include "platform/toolkit/ParentForm.h"
 #include "platform/toolkit/Shared.h"
 #include "platform/toolkit/StatusBar.h"
@@ -172,6 +173,15 @@ private Q_SLOTS:
                      << "Dialog unload";
         }
         QCOMPARE(taken(), expected << "Main activate");
+    }
+
+    void anUnloadedWindowOwnsNoBox() {
+        auto* form = new Witness("F");
+        form->show();
+        QVERIFY(QTest::qWaitForWindowActive(form));
+        QCOMPARE(toolkit::dialogOwner(), form);
+        form->unload();
+        QCOMPARE(toolkit::dialogOwner(), nullptr); // it only waits for its destruction, a box along with it
     }
 
     void anErrorInAModalHandlerReachesTheOnePlace() {
