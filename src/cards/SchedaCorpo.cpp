@@ -166,7 +166,8 @@ void SchedaCorpo::ScriviDati() {
 }
 
 PaginaEsercizi SchedaCorpo::pagina() const {
-    PaginaEsercizi stato{.posizione = VS.value(), .massimo = VS.maximum(), .righe = {}};
+    // Where the rows stand, not the bar: it is one ahead when a row's number refused to be written.
+    PaginaEsercizi stato{.posizione = (primoEsercizio + 1) / nRighe, .massimo = VS.maximum(), .righe = {}};
     for (const RigaEsercizio& r : riga) {
         stato.righe.push_back(r.testi());
     }

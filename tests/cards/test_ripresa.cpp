@@ -7,6 +7,7 @@
 #include "core/Principale.h"
 #include "core/variabiliGlobali.h"
 #include "platform/runtime/Error.h"
+#include "support/Errors.h"
 #include "support/ToolkitTest.h"
 
 #include <QDir>
@@ -230,6 +231,23 @@ private Q_SLOTS:
         });
         QTRY_COMPARE(fatale.count, 1);
         QVERIFY(contenuto().contains(u"prima dell’errore"_s.toUtf8()));
+    }
+
+    void rowsThatCouldNotMoveKeepTheirPlace() {
+        EditorAperto e;
+        const int chiave = e.scheda();
+        for (int n = 1; n <= 4; ++n)
+            e.esercizio(chiave, n, 1, u"nota %1"_s.arg(n));
+        e.apriScheda(chiave);
+        {
+            const ExpectedFatal fatale;
+            e.corpo().type(u"recuperoMin_0"_s, u"256"_s); // beyond 8 bits: no row can be written
+        }
+        QCOMPARE(errorOf([&e] { return e.corpo().find<toolkit::ScrollBar>(u"VS"_s).setValue(2), 0; }),
+                 runtime::Overflow);
+        QCOMPARE(e.corpo().text(u"note_0"_s), u"nota 1"_s);
+        QCOMPARE(SchedaCorpo::comune().pagina().posizione, 1);
+        e.corpo().type(u"recuperoMin_0"_s, u"1"_s); // the editor can be left again
     }
 
     void unwritableFileIsToldOnce() {
