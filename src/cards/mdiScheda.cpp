@@ -98,6 +98,7 @@ void mdiScheda::mostra() {
     if (schedaAperta->id_scheda != 0) {
         schedaAperta->caricaEsercizi();
     }
+    conta();
     presenta();
 }
 
@@ -108,14 +109,22 @@ void mdiScheda::riapri(const std::shared_ptr<SchedaApribile>& scheda) {
     }
     schedaAperta = scheda;
     ToolbarSchede.setButtonEnabled(pulsanteSalva, !schedaAperta->preimpostata);
+    try {
+        conta();
+    } catch (const runtime::Error&) {
+        // Times beyond 16 bits may be what ended the program: they must not keep the card from coming back.
+    }
     presenta();
 }
 
-void mdiScheda::presenta() {
+void mdiScheda::conta() {
     contaTempi = std::make_shared<ContatoreTempi>();
     contaTempi->schedaCorrente = schedaAperta;
     contaTempi->barraStato = &StatusBar1;
     contaTempi->contaEstampa();
+}
+
+void mdiScheda::presenta() {
     StatusBar1.setPanel(QStringLiteral("date2"), runtime::dateText(runtime::today()));
     show(); // maximised: the pages are placed by its width
     disponiPagine();

@@ -44,6 +44,7 @@ protected:
 private:
     void caricaImmagini();
     void creaScheda();
+    void conta();
     void presenta();
     void disponiPagine();
     void premuto(const QString& chiave);

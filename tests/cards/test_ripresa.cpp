@@ -250,6 +250,26 @@ private Q_SLOTS:
         e.corpo().type(u"recuperoMin_0"_s, u"1"_s); // the editor can be left again
     }
 
+    void timesThatEndedTheProgramDoNotEndItAgain() {
+        EditorAperto e;
+        const int chiave = e.scheda();
+        e.esercizio(chiave, 1, 2);
+        {
+            const AlLavoro custode;
+            const ExpectedFatal fatale;
+            e.apriScheda(chiave);
+            e.corpo().find<toolkit::Combo>(u"durata_0"_s).setText(u"99999"_s);
+            e.corpo().type(u"serie_0"_s, u"9"_s);
+            QVERIFY(fatale.count > 0);
+        }
+        interrompi();
+        AlLavoro custode;
+        e.riquadri.expectBeginning(Icon::Question, domanda, Answer::Yes);
+        custode.ripresa.proponi();
+        QVERIFY(e.riquadri.satisfied());
+        QCOMPARE(e.corpo().text(u"durata_0"_s), u"99999"_s);
+    }
+
     void unwritableFileIsToldOnce() {
         EditorAperto e;
         QVERIFY(QDir().mkpath(e.programma.folder() + u"/splash.ps.aperta/piena"_s));
