@@ -1,15 +1,19 @@
 # Sourced by run and check: installs what is missing on Debian, names it on another system.
-# quiverdeck_setup build|check: the packages to build and start the program, or those to test it as well.
+# quiverdeck_setup build|check|bench: the packages to build and start the program, those to test it as well, or
+# those to build and measure it.
 
 build_packages=(g++ cmake ninja-build pkg-config qt6-base-dev qt6-base-dev-tools qt6-translations-l10n
     qt6-svg-dev libsqlite3-dev libasound2-dev libxcb-randr0-dev fonts-dejavu-core fonts-liberation breeze-icon-theme)
 screen_packages=(xvfb openbox xdotool x11-utils x11-xkb-utils imagemagick poppler-utils)
 check_packages=(clang-format sqlite3 xserver-xephyr dpkg-dev file desktop-file-utils appstream)
+bench_packages=(libbenchmark-dev)
 
 quiverdeck_setup() {
     local wanted=("${build_packages[@]}")
     if [ "$1" = check ]; then
         wanted+=("${screen_packages[@]}" "${check_packages[@]}")
+    elif [ "$1" = bench ]; then
+        wanted+=("${bench_packages[@]}")
     elif [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
         wanted+=("${screen_packages[@]}")
     fi
