@@ -1,5 +1,6 @@
 #include "cards/SchedaSospesa.h"
 
+#include "cards/TestoJson.h"
 #include "cards/scheda.h"
 #include "core/db.h"
 #include "platform/runtime/Dates.h"
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <set>
 #include <utility>
@@ -58,10 +60,10 @@ template <class Testi, class Campo> void campiTesti(Testi& t, const Campo& campo
 }
 
 template <class Sospesa, class Campo> void campiSospesa(Sospesa& s, const Campo& campo) {
+    campo("nome"_L1, s.nome);
     campo("idUtenteSelezionato"_L1, s.idUtenteSelezionato);
     campo("idSchedaSelezionata"_L1, s.idSchedaSelezionata);
     campo("idModelloSelezionato"_L1, s.idModelloSelezionato);
-    campo("nome"_L1, s.nome);
 }
 
 template <class Campo> void campiScheda(SchedaApribile& s, const Campo& campo) {
@@ -85,17 +87,6 @@ template <class Campo> void campiScheda(SchedaApribile& s, const Campo& campo) {
         campo("descrizione"_L1, modello->descrizione);
     }
 }
-
-class Scrittore {
-public:
-    explicit Scrittore(QJsonObject& oggetto) : oggetto_(oggetto) {}
-    template <class Valore> void operator()(QLatin1StringView nome, const Valore& valore) const {
-        oggetto_.insert(nome, QJsonValue(valore));
-    }
-
-private:
-    QJsonObject& oggetto_;
-};
 
 /// Takes only a value of the field's own kind and range; `bene` turns false at the first other one.
 class Lettore {
@@ -124,10 +115,25 @@ private:
     bool& bene_;
 };
 
-QJsonObject oggetto(const Esercizio& e) {
-    QJsonObject o;
-    campiRiga(e, Scrittore(o));
-    return o;
+void scriviRiga(TestoJson& testo, const Esercizio& e) {
+    testo.apriOggetto();
+    campiRiga(e, std::ref(testo));
+    testo.chiudiOggetto();
+}
+
+void scriviPagina(TestoJson& testo, const PaginaEsercizi& pagina) {
+    testo.apriOggetto();
+    testo("massimo"_L1, pagina.massimo);
+    testo("posizione"_L1, pagina.posizione);
+    testo.nome("righe"_L1);
+    testo.apriElenco();
+    for (const TestiRiga& riga : pagina.righe) {
+        testo.apriOggetto();
+        campiTesti(riga, std::ref(testo));
+        testo.chiudiOggetto();
+    }
+    testo.chiudiElenco();
+    testo.chiudiOggetto();
 }
 
 /// The objects of an array, each through `leggi`; false for anything else.
@@ -205,33 +211,31 @@ std::set<qint32> righeEsistenti(const SchedaApribile::Esercizi& righe, bool isMo
 } // namespace
 
 QByteArray SchedaSospesa::stato() const {
-    QJsonObject tutto;
-    campiSospesa(*this, Scrittore(tutto));
-    QJsonObject testata;
-    campiScheda(*scheda, Scrittore(testata));
-    tutto.insert("isModello"_L1, scheda->isModello);
-    tutto.insert("scheda"_L1, testata);
-    QJsonArray righe;
+    TestoJson testo;
+    testo.apriOggetto();
+    testo("isModello"_L1, scheda->isModello);
+    campiSospesa(*this, std::ref(testo));
+    testo.nome("scheda"_L1);
+    testo.apriOggetto();
+    campiScheda(*scheda, std::ref(testo));
+    testo.chiudiOggetto();
+    testo.nome("esercizi"_L1);
+    testo.apriElenco();
     for (const auto& riga : *scheda->esercizi)
-        righe.append(oggetto(*riga));
-    tutto.insert("esercizi"_L1, righe);
-    QJsonArray tolte;
+        scriviRiga(testo, *riga);
+    testo.chiudiElenco();
+    testo.nome("eliminati"_L1);
+    testo.apriElenco();
     for (const Esercizio& riga : eliminati)
-        tolte.append(oggetto(riga));
-    tutto.insert("eliminati"_L1, tolte);
-    QJsonValue vista;
-    if (pagina) {
-        QJsonArray testi;
-        for (const TestiRiga& t : pagina->righe) {
-            QJsonObject o;
-            campiTesti(t, Scrittore(o));
-            testi.append(o);
-        }
-        vista = QJsonObject{
-            {"posizione"_L1, pagina->posizione}, {"massimo"_L1, pagina->massimo}, {"righe"_L1, testi}};
-    }
-    tutto.insert("pagina"_L1, vista);
-    return QJsonDocument(tutto).toJson(QJsonDocument::Compact);
+        scriviRiga(testo, riga);
+    testo.chiudiElenco();
+    testo.nome("pagina"_L1);
+    if (pagina)
+        scriviPagina(testo, *pagina);
+    else
+        testo.nullo();
+    testo.chiudiOggetto();
+    return testo.testo();
 }
 
 QByteArray SchedaSospesa::file(const QByteArray& stato, const QDateTime& ora) {

@@ -27,7 +27,7 @@ Esercizio riga(int n, bool isModello) {
     e.recuperoSec = static_cast<quint8>(210 + n);
     e.serie = static_cast<quint8>(220 + n);
     e.modalita = u"Perché ’%1’"_s.arg(n);
-    e.peso = u"5 kg <%1>"_s.arg(n);
+    e.peso = u"5 kg <%1>\u0001"_s.arg(n) + QChar(0xD83D) + u'x'; // half of a pair
     e.note = u"note %1 "_s.arg(n);
     e.isModello = isModello;
     e.isLibero = n % 2 == 1;
