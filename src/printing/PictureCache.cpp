@@ -7,8 +7,8 @@ namespace sheet {
 
 namespace {
 
-/// About eighteen figures at the printer's detail: two sheets.
-constexpr qsizetype kilobytesKept = 24576;
+/// Twenty-two figures at the printer's detail: two full sheets of ten, and the logo.
+constexpr qsizetype kilobytesKept = 28672;
 
 } // namespace
 
