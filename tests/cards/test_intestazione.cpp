@@ -1,11 +1,9 @@
-#include "cards/EditorAperto.h"
+#include "cards/EditorTest.h"
 #include "cards/mdiScheda.h"
 #include "cards/scheda.h"
 #include "platform/runtime/Dates.h"
-#include "support/ToolkitTest.h"
 #include "support/WindowChecks.h"
 
-#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDateEdit>
@@ -13,265 +11,187 @@
 #include <QPlainTextEdit>
 #include <QScopeGuard>
 
-using host::Icon;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString fuoriLista = QStringLiteral("Selezionare un valore tra quelli disponibili!");
-
-/// Clicks a day of the open list.
-void clicca(const WindowPage& pagina, int giorno) {
-    auto& lista = pagina.find<QListWidget>(QStringLiteral("GGAllen"));
-    QTest::mouseClick(lista.viewport(), Qt::LeftButton, {},
-                      lista.visualItemRect(lista.item(giorno)).center());
-}
+const QString fuoriLista = u"Selezionare un valore tra quelli disponibili!"_s;
 
 } // namespace
 
-class TestIntestazione : public QObject {
+class TestIntestazione : public EditorTest {
     Q_OBJECT
+
+    static QListWidget& giorni() { return intestazione().find<QListWidget>(u"GGAllen"_s); }
+    /// Clicks a day of the open list.
+    static void clicca(int giorno) {
+        QTest::mouseClick(giorni().viewport(), Qt::LeftButton, {},
+                          giorni().visualItemRect(giorni().item(giorno)).center());
+    }
+    /// The texts of the named fields, joined by "|".
+    static QString campi(const QStringList& nomi) {
+        QStringList testi;
+        for (const QString& nome : nomi) {
+            testi += intestazione().text(nome);
+        }
+        return testi.join(u'|');
+    }
 
 private Q_SLOTS:
     void newCardTakesItsDefaults() {
         runtime::setClock([] { return QDateTime(QDate(2026, 2, 10), QTime(9, 0)); });
         const auto orologio = qScopeGuard([] { runtime::setClock({}); });
-        EditorAperto e;
-        e.apriNuova();
-        const WindowPage pagina = e.intestazione();
-        QCOMPARE(pagina.text("utente"), QStringLiteral("Rossi Mario"));
-        QCOMPARE(pagina.text("categoria"), QStringLiteral("Generale")); // the second of the list
-        QCOMPARE(pagina.text("dal"), QStringLiteral("10/02/2026"));
-        QCOMPARE(pagina.text("al"), QStringLiteral("03/03/2026"));
-        QCOMPARE(pagina.text("FreqAllen"), QStringLiteral("3"));
-        QCOMPARE(pagina.text("Text1"), QStringLiteral("Selezionare i giorni..."));
-        QVERIFY(!pagina.isVisible("GGAllen"));
-
-        const ::scheda& card = EditorAperto::schedaAperta();
-        QCOMPARE(card.categoria, QStringLiteral("Generale"));
-        QCOMPARE(card.PeriodoDal, QStringLiteral("10/02/2026"));
-        QCOMPARE(card.PeriodoAl, QStringLiteral("03/03/2026"));
+        apriNuova();
+        QCOMPARE(campi({u"utente"_s, u"categoria"_s, u"dal"_s, u"al"_s, u"FreqAllen"_s, u"Text1"_s}),
+                 u"Rossi Mario|Generale|10/02/2026|03/03/2026|3|Selezionare i giorni..."_s);
+        QVERIFY(!intestazione().isVisible(u"GGAllen"_s));
+        const ::scheda& card = schedaAperta();
+        QCOMPARE(QStringList({card.categoria, card.PeriodoDal, card.PeriodoAl, card.GGAllen}).join(u'|'),
+                 u"Generale|10/02/2026|03/03/2026|"_s);
         QCOMPARE(card.FreqAllen, 3);
-        QCOMPARE(card.GGAllen, QString());
         QVERIFY(!card.isSaved);
     }
 
     void todayIsWrittenEvenWhereThePickerShowsIt() {
-        EditorAperto e;
-        e.apriNuova();
-        QCOMPARE(EditorAperto::schedaAperta().PeriodoDal, runtime::dateText(runtime::today()));
+        apriNuova();
+        QCOMPARE(schedaAperta().PeriodoDal, runtime::dateText(runtime::today()));
     }
 
     void storedCardShowsItsFields() {
-        EditorAperto e;
-        e.apriScheda(e.scheda());
-        const WindowPage pagina = e.intestazione();
-        QCOMPARE(pagina.text("categoria"), QStringLiteral("Generale"));
-        QCOMPARE(pagina.text("Obiettivo"), QStringLiteral("Forza"));
-        QCOMPARE(pagina.text("Istruttore"), QStringLiteral("Anna"));
-        QCOMPARE(pagina.text("dal"), QStringLiteral("02/11/2026"));
-        QCOMPARE(pagina.text("al"), QStringLiteral("30/11/2026"));
-        QCOMPARE(pagina.text("FreqAllen"), QStringLiteral("2"));
-        QCOMPARE(pagina.text("note"), QStringLiteral("Bere molto"));
-        const auto& giorni = pagina.find<QListWidget>("GGAllen");
+        apriScheda(nuovaScheda());
+        QCOMPARE(campi({u"categoria"_s, u"Obiettivo"_s, u"Istruttore"_s, u"dal"_s, u"al"_s, u"FreqAllen"_s,
+                        u"note"_s}),
+                 u"Generale|Forza|Anna|02/11/2026|30/11/2026|2|Bere molto"_s);
         QStringList spuntati;
-        for (int i = 0; i < giorni.count(); ++i) {
-            if (giorni.item(i)->checkState() == Qt::Checked) {
-                spuntati += giorni.item(i)->text();
+        for (int i = 0; i < giorni().count(); ++i) {
+            if (giorni().item(i)->checkState() == Qt::Checked) {
+                spuntati += giorni().item(i)->text();
             }
         }
-        QCOMPARE(spuntati, QStringList({"Lunedi", "Mercoledi", "Venerdi"}));
-        QCOMPARE(giorni.count(), 9);
-        QVERIFY(!EditorAperto::aperta().isSaved); // every card that shows is marked unsaved
+        QCOMPARE(spuntati, QStringList({u"Lunedi"_s, u"Mercoledi"_s, u"Venerdi"_s}));
+        QVERIFY(!aperta().isSaved); // every card that shows is marked unsaved
     }
 
     void textsGoStraightToTheCard_data() {
         QTest::addColumn<QString>("campo");
         QTest::addColumn<QString>("digitato");
-        QTest::addColumn<QString>("atteso");
-        QTest::newRow("instructor") << "Istruttore"
-                                    << "D'Amico" << QStringLiteral("D’Amico");
-        QTest::newRow("goal") << "Obiettivo"
-                              << "l'equilibrio" << QStringLiteral("l’equilibrio");
-        QTest::newRow("notes are escaped by the record") << "note"
-                                                         << "un po' di \"x\""
-                                                         << "un po' di \"x\"";
-        QTest::newRow("emptied") << "Istruttore"
-                                 << ""
-                                 << "";
+        QTest::addColumn<QString>("atteso"); // instructor, goal, notes
+        QTest::newRow("instructor") << u"Istruttore"_s << u"D'Amico"_s << u"D’Amico|Forza|Bere molto"_s;
+        QTest::newRow("goal") << u"Obiettivo"_s << u"l'arto"_s << u"Anna|l’arto|Bere molto"_s;
+        QTest::newRow("notes are escaped by the record")
+            << u"note"_s << u"po' \"x\""_s << u"Anna|Forza|po' \"x\""_s;
+        QTest::newRow("emptied") << u"Istruttore"_s << QString() << u"|Forza|Bere molto"_s;
     }
     void textsGoStraightToTheCard() {
         QFETCH(QString, campo);
         QFETCH(QString, digitato);
-        QFETCH(QString, atteso);
-        EditorAperto e;
-        e.apriScheda(e.scheda());
-        ::scheda& card = EditorAperto::schedaAperta();
+        apriScheda(nuovaScheda());
+        ::scheda& card = schedaAperta();
         card.isSaved = true;
-        e.intestazione().type(campo, digitato);
-        QCOMPARE(campo == "Istruttore"  ? card.Istruttore
-                 : campo == "Obiettivo" ? card.Obiettivo
-                                        : card.note,
-                 atteso);
+        intestazione().type(campo, digitato);
+        QTEST(card.Istruttore + u'|' + card.Obiettivo + u'|' + card.note, "atteso");
         QVERIFY(!card.isSaved);
     }
 
     // One more would make the save fail, and the card would be lost.
     void notesStopAtWhatTheRecordStores() {
-        EditorAperto e;
-        e.apriScheda(e.scheda());
-        auto& note = e.intestazione().find<QPlainTextEdit>("note");
+        apriScheda(nuovaScheda());
+        auto& note = intestazione().find<QPlainTextEdit>(u"note"_s);
         QGuiApplication::clipboard()->setText(QString(40'000, u'è'));
         note.selectAll();
         note.paste();
-        QTest::keyClicks(&note, "x");
+        QTest::keyClicks(&note, u"x"_s);
         QTest::keyClick(&note, Qt::Key_Return);
-        QCOMPARE(EditorAperto::aperta().note, QString(32'767, u'è'));
-        e.riquadri.expect(Icon::Information, "Salvataggio effettuato");
-        e.comando("salva");
-        QVERIFY(e.riquadri.satisfied());
+        QCOMPARE(aperta().note, QString(32'767, u'è'));
+        salva();
         note.selectAll();
-        QTest::keyClicks(&note, "di nuovo"); // a selection makes room
-        QCOMPARE(EditorAperto::aperta().note, QStringLiteral("di nuovo"));
+        QTest::keyClicks(&note, u"di nuovo"_s); // a selection makes room
+        QCOMPARE(aperta().note, u"di nuovo"_s);
     }
 
     void datesGoStraightToTheCard() {
-        EditorAperto e;
-        e.apriScheda(e.scheda());
-        e.intestazione().find<QDateEdit>("dal").setDate(QDate(2026, 12, 1));
-        e.intestazione().find<QDateEdit>("al").setDate(QDate(2026, 1, 1)); // before the start: not looked at
-        QCOMPARE(EditorAperto::schedaAperta().PeriodoDal, QStringLiteral("01/12/2026"));
-        QCOMPARE(EditorAperto::schedaAperta().PeriodoAl, QStringLiteral("01/01/2026"));
+        apriScheda(nuovaScheda());
+        intestazione().find<QDateEdit>(u"dal"_s).setDate(QDate(2026, 12, 1));
+        intestazione().find<QDateEdit>(u"al"_s).setDate(QDate(2026, 1, 1)); // before the start: not looked at
+        QCOMPARE(schedaAperta().PeriodoDal, u"01/12/2026"_s);
+        QCOMPARE(schedaAperta().PeriodoAl, u"01/01/2026"_s);
     }
 
     void frequency_data() {
         QTest::addColumn<QString>("digitato");
         QTest::addColumn<int>("atteso");
         QTest::addColumn<bool>("rifiutato");
-        QTest::newRow("an item") << "5" << 5 << false;
-        QTest::newRow("a byte that is no item") << "255" << 255 << true;
-        QTest::newRow("beyond a byte keeps the last that fitted") << "256" << 25 << true;
-        QTest::newRow("no number keeps the value") << "x" << 2 << true;
-        QTest::newRow("empty") << "" << 2 << true;
+        QTest::newRow("an item") << u"5"_s << 5 << false;
+        QTest::newRow("a byte that is no item") << u"255"_s << 255 << true;
+        QTest::newRow("beyond a byte keeps the last that fitted") << u"256"_s << 25 << true;
+        QTest::newRow("no number keeps the value") << u"x"_s << 2 << true;
     }
     void frequency() {
         QFETCH(QString, digitato);
         QFETCH(bool, rifiutato);
-        EditorAperto e;
-        e.apriScheda(e.scheda());
-        const WindowPage pagina = e.intestazione();
-        pagina.type("FreqAllen", digitato);
-        QTEST(int(EditorAperto::schedaAperta().FreqAllen), "atteso");
+        apriScheda(nuovaScheda());
+        intestazione().type(u"FreqAllen"_s, digitato);
+        QTEST(int(schedaAperta().FreqAllen), "atteso");
         if (rifiutato) {
-            e.riquadri.expect(Icon::Critical, fuoriLista);
+            boxes().expect(Icon::Critical, fuoriLista);
         }
-        pagina.press("note");
-        QVERIFY(e.riquadri.satisfied());
-        QCOMPARE(pagina.find<QComboBox>("FreqAllen").hasFocus(), rifiutato);
+        intestazione().press(u"note"_s);
+        QCOMPARE(intestazione().find<QComboBox>(u"FreqAllen"_s).hasFocus(), rifiutato);
     }
 
     void categoryReachesTheCardOnlyByAChoice() {
-        EditorAperto e;
-        e.apriScheda(e.scheda());
-        const WindowPage pagina = e.intestazione();
-        pagina.type("categoria", "Forza"); // the text of an item, typed
-        pagina.press("Obiettivo");
-        QVERIFY(e.riquadri.satisfied());
-        QCOMPARE(EditorAperto::aperta().categoria, QStringLiteral("Generale"));
-
-        pagina.choose("categoria", "Recupero");
-        QCOMPARE(EditorAperto::aperta().categoria, QStringLiteral("Recupero"));
-
-        pagina.type("categoria", "Altro");
-        e.riquadri.expect(Icon::Critical, fuoriLista);
-        pagina.press("apriGGAllen");
-        QVERIFY(e.riquadri.satisfied());
-        QVERIFY(!pagina.isVisible("GGAllen")); // the button that caused it did not act
-        QCOMPARE(EditorAperto::aperta().categoria, QStringLiteral("Recupero"));
+        apriScheda(nuovaScheda());
+        const WindowPage pagina = intestazione();
+        pagina.type(u"categoria"_s, u"Forza"_s); // the text of an item, typed
+        pagina.press(u"Obiettivo"_s);
+        QCOMPARE(aperta().categoria, u"Generale"_s);
+        pagina.choose(u"categoria"_s, u"Recupero"_s);
+        QCOMPARE(aperta().categoria, u"Recupero"_s);
+        pagina.type(u"categoria"_s, u"Altro"_s);
+        boxes().expect(Icon::Critical, fuoriLista);
+        pagina.press(u"apriGGAllen"_s);
+        QVERIFY(!pagina.isVisible(u"GGAllen"_s)); // the button that caused it did not act
+        QCOMPARE(aperta().categoria, u"Recupero"_s);
     }
 
     void dayListCloses_data() {
-        QTest::addColumn<QString>("campo");
         QTest::addColumn<bool>("chiude");
-        for (const char* campo : {"categoria", "Istruttore", "Obiettivo", "note", "dal"}) {
-            QTest::newRow(campo) << campo << true;
+        for (const char* campo :
+             {"categoria", "Istruttore", "Obiettivo", "note", "dal", "apriGGAllen", "fine"}) {
+            QTest::newRow(campo) << true;
         }
-        QTest::newRow("al") << "al" << false;
-        QTest::newRow("FreqAllen") << "FreqAllen" << false;
-        QTest::newRow("its own button") << "apriGGAllen" << true;
+        QTest::newRow("al") << false;
+        QTest::newRow("FreqAllen") << false;
     }
     void dayListCloses() {
-        QFETCH(QString, campo);
         QFETCH(bool, chiude);
-        EditorAperto e;
-        e.apriNuova();
-        const WindowPage pagina = e.intestazione();
-        pagina.press("apriGGAllen");
-        QVERIFY(pagina.isVisible("GGAllen"));
-        if (campo == "apriGGAllen") {
+        const QString campo = QLatin1String(QTest::currentDataTag());
+        apriNuova();
+        const WindowPage pagina = intestazione();
+        pagina.press(u"apriGGAllen"_s);
+        QVERIFY(pagina.isVisible(u"GGAllen"_s));
+        QCOMPARE(cutTexts(pagina.window()), QStringList());
+        if (campo == u"apriGGAllen"_s) { // its own button
             pagina.press(campo);
+        } else if (campo == u"fine"_s) { // a button of the toolbar
+            boxes().expect(Icon::Information, u"Salvo le ultime modifiche?"_s, Answer::Cancel);
+            comando(campo);
         } else {
             pagina.widget(campo).setFocus(Qt::TabFocusReason);
         }
-        QCOMPARE(pagina.isVisible("GGAllen"), !chiude);
-    }
-
-    void dayListClosesBeforeAToolbarAction() {
-        EditorAperto e;
-        e.apriNuova();
-        e.intestazione().press("apriGGAllen");
-        e.riquadri.expect(Icon::Information, "Salvo le ultime modifiche?", host::Answer::Cancel);
-        e.comando("fine");
-        QVERIFY(e.riquadri.satisfied());
-        QVERIFY(!e.intestazione().isVisible("GGAllen"));
+        QCOMPARE(pagina.isVisible(u"GGAllen"_s), !chiude);
     }
 
     void daysAreStoredAsTheyAreTicked() {
-        EditorAperto e;
-        e.apriScheda(e.scheda());
-        const WindowPage pagina = e.intestazione();
-        EditorAperto::aperta().isSaved = true;
-        pagina.press("apriGGAllen");
-        clicca(pagina, 0); // daily beside weekdays: both stay
-        clicca(pagina, 2);
-        QCOMPARE(EditorAperto::schedaAperta().GGAllen, QStringLiteral("100010100"));
-        QVERIFY(!EditorAperto::aperta().isSaved);
-    }
-
-    void everythingShowsWhole() {
-        EditorAperto e;
-        e.apriScheda(e.scheda("Istruttore='Anna'"));
-        const WindowPage pagina = e.intestazione();
-        pagina.press("apriGGAllen");
-        QCOMPARE(cutTexts(pagina.window()).join(u'\n'), QString());
-    }
-
-    void keyboardGoesThroughTheFieldsInReadingOrder() {
-        EditorAperto e;
-        e.apriNuova();
-        const WindowPage pagina = e.intestazione();
-        pagina.widget("categoria").setFocus();
-        QStringList passati;
-        for (int tasti = 0; passati.size() < 8 && tasti < 16; ++tasti) {
-            QWidget* campo = QApplication::focusWidget();
-            if (!passati.contains(campo->objectName())) { // a date stops at day, month and year
-                passati += campo->objectName();
-            }
-            QVERIFY2(!campo->accessibleName().isEmpty(), qPrintable(campo->objectName()));
-            QTest::keyClick(campo, Qt::Key_Tab);
-        }
-        QCOMPARE(passati, QStringList({"categoria", "Obiettivo", "Istruttore", "dal", "al", "FreqAllen",
-                                       "apriGGAllen", "note"}));
-    }
-
-    void pageStaysUntilTheEditorLetsItGo() {
-        EditorAperto e;
-        e.apriNuova();
-        auto& pagina = dynamic_cast<toolkit::Form&>(e.intestazione().window());
-        QVERIFY(!pagina.unload());
-        mdiScheda::comune().puoiChiudere = true;
-        QVERIFY(pagina.unload());
+        apriScheda(nuovaScheda());
+        aperta().isSaved = true;
+        intestazione().press(u"apriGGAllen"_s);
+        clicca(0); // daily beside weekdays: both stay
+        clicca(2);
+        QCOMPARE(schedaAperta().GGAllen, u"100010100"_s);
+        QVERIFY(!aperta().isSaved);
     }
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestIntestazione)
+QUIVERDECK_TEST(TestIntestazione)
 #include "test_intestazione.moc"

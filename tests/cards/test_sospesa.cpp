@@ -1,13 +1,12 @@
 #include "cards/FileSospeso.h"
 #include "cards/SchedaSospesa.h"
 #include "cards/scheda.h"
-#include "support/ScratchProgram.h"
+#include "support/RecordsTest.h"
 #include "templates/SchedaModello.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -101,7 +100,7 @@ QByteArray fileDi(const SchedaSospesa& s) {
 
 } // namespace
 
-class TestSospesa : public QObject {
+class TestSospesa : public RecordsTest {
     Q_OBJECT
 private Q_SLOTS:
     void comesBackWhole_data() {
@@ -189,10 +188,9 @@ private Q_SLOTS:
     }
 
     void lostRowsBecomeNew() {
-        const ScratchProgram programma;
-        programma.sql(u"INSERT INTO utenti VALUES (1,'Anna','Però',NULL,'F','');"
-                      "INSERT INTO schede (id_scheda,id_utente,id_cat) VALUES (5,1,2);"
-                      "INSERT INTO Esercizi (ct,NProg,ID_Scheda) VALUES (101,1,5),(103,3,5)"_s);
+        sql(u"INSERT INTO utenti VALUES (1,'Anna','Però',NULL,'F','');"
+            "INSERT INTO schede (id_scheda,id_utente,id_cat) VALUES (5,1,2);"
+            "INSERT INTO Esercizi (ct,NProg,ID_Scheda) VALUES (101,1,5),(103,3,5)"_s);
         SchedaSospesa s = esempio(false);
         QVERIFY(s.confronta());
         const auto chiavi = [&s] {
@@ -202,10 +200,10 @@ private Q_SLOTS:
             return ct;
         };
         QCOMPARE(chiavi(), QList<int>({5, 5, 101, 0, 103}));
-        programma.sql(u"DELETE FROM schede"_s);
+        sql(u"DELETE FROM schede"_s);
         QVERIFY(s.confronta());
         QCOMPARE(chiavi(), QList<int>({0, 0, 0, 0, 0})); // the store removes a card's lines with it
-        programma.sql(u"DELETE FROM utenti"_s);
+        sql(u"DELETE FROM utenti"_s);
         QVERIFY(!s.confronta());
 
         SchedaSospesa m = esempio(true); // its keys are the templates', whatever the cards have
@@ -258,5 +256,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSospesa)
+QUIVERDECK_TEST(TestSospesa)
 #include "test_sospesa.moc"

@@ -1,8 +1,6 @@
 #include "desktop/OwnMenu.h"
-#include "platform/runtime/Error.h"
 #include "platform/toolkit/ImageList.h"
-#include "support/Errors.h"
-#include "support/ToolkitTest.h"
+#include "support/WindowTest.h"
 
 #include <QMainWindow>
 #include <QMenuBar>
@@ -33,10 +31,11 @@ int count(const QImage& image, const QRect& place, const QColor& colour) {
 
 } // namespace
 
-class TestOwnMenu : public QObject {
+class TestOwnMenu : public WindowTest {
     Q_OBJECT
 private Q_SLOTS:
     void init() {
+        WindowTest::init();
         window_ = std::make_unique<QMainWindow>();
         bar_ = window_->menuBar();
         images_ = std::make_unique<toolkit::ImageList>();
@@ -56,6 +55,7 @@ private Q_SLOTS:
         OwnMenu::sgancia(*window_);
         window_.reset();
         QApplication::setFont(before_, "QMenu");
+        WindowTest::cleanup();
     }
 
     void looks() {
@@ -160,5 +160,5 @@ private:
     QFont before_;
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestOwnMenu)
+QUIVERDECK_TEST(TestOwnMenu)
 #include "test_OwnMenu.moc"

@@ -2,34 +2,18 @@
 #include "desktop/testClassi.h"
 #include "desktop/zTESTDragAndDrop.h"
 #include "desktop/zTestTreeViewImage.h"
-#include "support/FormPage.h"
-#include "support/Pictures.h"
-#include "support/ScriptedBoxes.h"
-#include "support/ToolkitTest.h"
-#include "support/WindowChecks.h"
+#include "support/WindowTest.h"
 
 #include <QMimeData>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
-class TestDiagnostica : public QObject {
+class TestDiagnostica : public WindowTest {
     Q_OBJECT
 private Q_SLOTS:
-    void init() {
-        program_ = std::make_unique<ScratchProgram>();
-        boxes_ = std::make_unique<ScriptedBoxes>();
-        givePictures(*program_);
-    }
-    void cleanup() {
-        toolkit::Form::destroyAll();
-        QVERIFY(boxes_->satisfied());
-        boxes_.reset();
-        program_.reset();
-    }
-
     void counts() {
-        program_->sql(u"INSERT INTO utenti (cognome) VALUES ('Rossi'),('Verdi'); DROP TABLE muscoli"_s);
+        sql(u"INSERT INTO utenti (cognome) VALUES ('Rossi'),('Verdi'); DROP TABLE muscoli"_s);
         const QString lines = testClassi::conteggi();
         QVERIFY(lines.startsWith(u"utenti: 2\nschede: 0\n"_s));
         QVERIFY(QRegularExpression(u"\nmuscoli: [^0-9]"_s).match(lines).hasMatch()); // tells why
@@ -43,7 +27,6 @@ private Q_SLOTS:
         QTest::keyClick(&Principale::comune(), Qt::Key_F12, Qt::ControlModifier | Qt::ShiftModifier);
         whenModal([](toolkit::Form& form) {
             const FormPage page(form);
-            QCOMPARE(cutTexts(form), QStringList());
             whenModal([](toolkit::Form& display) {
                 QVERIFY(WindowPage(display).text(u"txtDisplay"_s).contains(u"figure: 4\n"_s));
                 display.unload();
@@ -66,8 +49,6 @@ private Q_SLOTS:
         zTESTDragAndDrop& form = zTESTDragAndDrop::comune();
         form.show();
         const FormPage page(form);
-        QCOMPARE(page.nameless(), QStringList());
-        QCOMPARE(cutTexts(form), QStringList());
         auto& tree = page.find<toolkit::ImageTree>(u"twImage"_s);
         QCOMPARE(tree.nodeCount(), 4);
         tree.select(u"2"_s);
@@ -81,15 +62,11 @@ private Q_SLOTS:
         zTestTreeViewImage& form = zTestTreeViewImage::comune();
         form.show();
         const FormPage page(form);
-        QCOMPARE(page.find<toolkit::ImageTree>(u"tw"_s).nodeCount(), 1 + 3);
+        QCOMPARE(page.find<toolkit::ImageTree>(u"tw"_s).nodeCount(), 1 + 5);
         Q_EMIT page.find<toolkit::ImageTree>(u"tw"_s).nodeClick(u"GLU"_s);
         QCOMPARE(page.text(u"lblChiave"_s), u"GLU"_s);
     }
-
-private:
-    std::unique_ptr<ScratchProgram> program_;
-    std::unique_ptr<ScriptedBoxes> boxes_;
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestDiagnostica)
+QUIVERDECK_TEST(TestDiagnostica)
 #include "test_diagnostica.moc"

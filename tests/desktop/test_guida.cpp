@@ -5,11 +5,7 @@
 #include "desktop/TastoAiuto.h"
 #include "desktop/frmPersonalizza.h"
 #include "platform/host/ProgramDirectory.h"
-#include "support/FormPage.h"
-#include "support/ScratchProgram.h"
-#include "support/ScriptedBoxes.h"
-#include "support/ToolkitTest.h"
-#include "support/WindowChecks.h"
+#include "support/WindowTest.h"
 
 #include <QDir>
 #include <QMenu>
@@ -27,33 +23,28 @@ const QString file =
 
 } // namespace
 
-class TestGuida : public QObject {
+class TestGuida : public WindowTest {
     Q_OBJECT
 private Q_SLOTS:
     void init() {
-        program_ = std::make_unique<ScratchProgram>();
-        boxes_ = std::make_unique<ScriptedBoxes>();
+        WindowTest::init();
         key_ = std::make_unique<TastoAiuto>();
         guida::file = host::joined(u"\\HELP\\HELP.hlp"_s);
         write(u"HELP.hlp"_s, file);
     }
     void cleanup() {
-        toolkit::Form::destroyAll();
-        QVERIFY(boxes_->satisfied());
+        WindowTest::cleanup();
         key_.reset();
-        boxes_.reset();
-        program_.reset();
     }
 
     void window() {
         FinestraGuida::mostra(u"palestra"_s);
-        const FormPage page(FinestraGuida::comune());
-        QCOMPARE(page.nameless(), QStringList());
-        QCOMPARE(page.tabOrder(), QStringList({u"cerca"_s, u"indice"_s, u"testo"_s}));
-        QCOMPARE(cutTexts(page.window()), QStringList());
         QCOMPARE(contents(),
                  QStringList({u"Primo"_s, u"  Benvenuti"_s, u"  Palestra"_s, u"Secondo"_s, u"  Finestra"_s}));
-        QVERIFY(shown().contains(u"Il logo"_s));
+        QVERIFY(WindowPage(FinestraGuida::comune())
+                    .find<QTextBrowser>(u"testo"_s)
+                    .toPlainText()
+                    .contains(u"Il logo"_s));
     }
 
     void goingBackAndForward() {
@@ -127,22 +118,17 @@ private Q_SLOTS:
         frmPersonalizza::comune().showModal();
     }
 
-    void everyWindowHasItsPage_data() {
-        QTest::addColumn<QString>("window");
-        for (const QString& name :
+    void everyWindowHasItsPage() {
+        for (const QString& window :
              {u"Principale"_s, u"UtentiSelezione"_s, u"UtentiNuovo"_s, u"mdiScheda"_s,
               u"SchedaIntestazione"_s, u"SchedaCorpo"_s, u"SchedaSelezioneFIGURE"_s, u"SchedaPreviewFigura"_s,
               u"SchedeSelezione"_s, u"SchedeMODELLOSelezione"_s, u"SchedeMODELLONuova"_s,
               u"SchedaIntestazioneMODELLO"_s, u"PrinterCanvas"_s, u"PrinterDaNonFare"_s, u"frmPersonalizza"_s,
               u"ResolutionConfirm"_s}) {
-            QTest::newRow(qPrintable(name)) << name;
+            const QString page = qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine/"_s +
+                                 paginaDellaFinestra(window) + u".md"_s;
+            QVERIFY2(haPagina(window) && QFile::exists(page), qPrintable(window));
         }
-    }
-    void everyWindowHasItsPage() {
-        QFETCH(QString, window);
-        const QString source = QString::fromLocal8Bit(qgetenv("QUIVERDECK_SOURCE"));
-        QVERIFY(haPagina(window));
-        QVERIFY(QFile::exists(source + u"/help/pagine/"_s + paginaDellaFinestra(window) + u".md"_s));
     }
 
     void commandsOfTheMainWindow() {
@@ -154,11 +140,11 @@ private Q_SLOTS:
     }
 
     void missingFile() {
-        QFile::remove(program_->folder() + u"/HELP/HELP.hlp"_s);
-        boxes_->expectBeginning(host::Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
+        QFile::remove(program().folder() + u"/HELP/HELP.hlp"_s);
+        boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
         FinestraGuida::mostra(u"palestra"_s);
         write(u"HELP.hlp"_s, u"altro"_s);
-        boxes_->expectBeginning(host::Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
+        boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
         FinestraGuida::mostra(u"palestra"_s);
         write(u"HELP.hlp"_s, file); // put back, it opens at once
         FinestraGuida::mostra(u"palestra"_s);
@@ -167,22 +153,22 @@ private Q_SLOTS:
 
     void manualOpensWithTheFolder() {
         // The launcher tells what it was started with; the program's folder has blanks and accents.
-        const QString told = program_->folder() + u"/detto.txt"_s;
+        const QString told = program().folder() + u"/detto.txt"_s;
         write(u"manuale"_s, u"#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$1/detto.tmp\"\n"
                             "mv \"$1/detto.tmp\" \"$1/detto.txt\"\n"_s);
-        QFile::setPermissions(program_->folder() + u"/HELP/manuale"_s, QFile::ReadOwner | QFile::ExeOwner);
+        QFile::setPermissions(program().folder() + u"/HELP/manuale"_s, QFile::ReadOwner | QFile::ExeOwner);
         Principale::comune().show();
         item(u"mnuHelpManuale"_s).trigger();
         QTRY_VERIFY(QFile::exists(told));
         QFile answer(told);
         QVERIFY(answer.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(answer.readAll()), u"1|"_s + program_->folder());
+        QCOMPARE(QString::fromUtf8(answer.readAll()), u"1|"_s + program().folder());
     }
 
 private:
     void write(const QString& name, const QString& text) const {
-        QDir().mkpath(program_->folder() + u"/HELP"_s);
-        QFile out(program_->folder() + u"/HELP/"_s + name);
+        QDir().mkpath(program().folder() + u"/HELP"_s);
+        QFile out(program().folder() + u"/HELP/"_s + name);
         QVERIFY(out.open(QIODevice::WriteOnly));
         out.write(text.toUtf8());
     }
@@ -195,22 +181,12 @@ private:
         }
         return lines;
     }
-    static QString shown() {
-        return WindowPage(FinestraGuida::comune()).find<QTextBrowser>(u"testo"_s).toPlainText();
-    }
     static QAction& item(const QString& name) {
-        QAction& action =
-            WindowPage(Principale::comune()).find<MenuPrincipale>(u"MenuPrincipale"_s).voce(name);
-        if (!action.isEnabled()) {
-            qFatal("%s is disabled", qPrintable(name));
-        }
-        return action;
+        return WindowPage(Principale::comune()).find<MenuPrincipale>(u"MenuPrincipale"_s).voce(name);
     }
 
-    std::unique_ptr<ScratchProgram> program_;
-    std::unique_ptr<ScriptedBoxes> boxes_;
     std::unique_ptr<TastoAiuto> key_;
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestGuida)
+QUIVERDECK_TEST(TestGuida)
 #include "test_guida.moc"

@@ -1,22 +1,14 @@
 #include "desktop/frmPersonalizza.h"
 #include "platform/host/ProgramDirectory.h"
 #include "printing/percorsoLogo.h"
-#include "support/Errors.h"
-#include "support/FormPage.h"
-#include "support/ScratchProgram.h"
-#include "support/ScriptedBoxes.h"
 #include "support/ScriptedDialogs.h"
-#include "support/ToolkitTest.h"
-#include "support/WindowChecks.h"
+#include "support/WindowTest.h"
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
-using host::Icon;
 
 namespace {
-
-const QString row = u"SELECT * FROM palestra"_s;
 
 /// The window as its user has it.
 class Window : public FormPage {
@@ -45,9 +37,9 @@ QByteArray readFile(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void writePicture(const QString& path, const QSize& size, const QColor& colour = Qt::darkGreen) {
+void writePicture(const QString& path, const QSize& size) {
     QImage picture(size, QImage::Format_RGB32);
-    picture.fill(colour);
+    picture.fill(Qt::darkGreen);
     QDir().mkpath(QFileInfo(path).path());
     QVERIFY(picture.save(path, path.endsWith(u"bmp"_s, Qt::CaseInsensitive) ? "BMP" : "JPG"));
 }
@@ -70,32 +62,24 @@ QByteArray bitmapHead(qint32 side) {
 
 } // namespace
 
-class TestPersonalizza : public QObject {
+class TestPersonalizza : public WindowTest {
     Q_OBJECT
 private Q_SLOTS:
     void init() {
-        program_ = std::make_unique<ScratchProgram>();
-        boxes_ = std::make_unique<ScriptedBoxes>();
+        WindowTest::init();
+        QDir(program().folder() + u"/images"_s).removeRecursively();
         dialogs_ = std::make_unique<ScriptedFileDialogs>();
         elsewhere_ = std::make_unique<QTemporaryDir>();
     }
     void cleanup() {
-        toolkit::Form::destroyAll();
-        QVERIFY(boxes_->satisfied());
+        WindowTest::cleanup();
         dialogs_.reset();
-        boxes_.reset();
-        program_.reset();
     }
 
-    void window() {
+    void tabsGoRound() {
         const Window page;
-        QCOMPARE(frmPersonalizza::comune().caption(), u"Personalizza"_s);
         QVERIFY(page.isVisible(u"noImage"_s));
         QCOMPARE(page.logo().size(), QSize(200, 200));
-        QCOMPARE(page.tabOrder(), QStringList({u"tbsOptions"_s, u"nome"_s, u"responsabile"_s, u"cmdApriIMG"_s,
-                                               u"cmdOK"_s, u"cmdCancel"_s, u"cmdApply"_s}));
-        QCOMPARE(page.nameless(), QStringList());
-        QCOMPARE(cutTexts(page.window()), QStringList());
         const QWidget& panel = page.widget(u"picOptions_0"_s);
         page.key(u"nome"_s, Qt::Key_Tab, Qt::ControlModifier); // from the last tab back to the first
         QVERIFY(panel.isEnabled());
@@ -105,19 +89,19 @@ private Q_SLOTS:
     }
 
     void savesAndKeeps() {
-        program_->sql(u"DELETE FROM palestra"_s);
-        boxes_->expect(Icon::Critical, u"Archivio Vuoto o Problemi di connessione!"_s);
+        sql(u"DELETE FROM palestra"_s);
+        boxes().expect(Icon::Critical, u"Archivio Vuoto o Problemi di connessione!"_s);
         {
             const Window page;
             page.type(u"nome"_s, u"L'Arena"_s);
             page.press(u"cmdApply"_s); // inserts
-            QCOMPARE(program_->rows(row), QStringList(u"L`Arena||"_s));
+            QCOMPARE(rows(u"SELECT * FROM palestra"), u"L`Arena||"_s);
             page.type(u"responsabile"_s, u"Ugo"_s);
             page.press(u"cmdApply"_s); // updates
             page.type(u"nome"_s, u"Altro"_s);
             page.press(u"cmdCancel"_s);
             QVERIFY(!frmPersonalizza::esiste());
-            QCOMPARE(program_->rows(row), QStringList(u"L`Arena|Ugo|"_s));
+            QCOMPARE(rows(u"SELECT * FROM palestra"), u"L`Arena|Ugo|"_s);
         }
         const Window again;
         QCOMPARE(again.text(u"nome"_s), u"L`Arena"_s);
@@ -125,7 +109,7 @@ private Q_SLOTS:
         again.type(u"responsabile"_s, {});
         again.press(u"cmdOK"_s);
         QVERIFY(!frmPersonalizza::esiste());
-        QCOMPARE(program_->rows(row), QStringList(u"||"_s));
+        QCOMPARE(rows(u"SELECT * FROM palestra"), u"||"_s);
     }
 
     void logos_data() {
@@ -168,7 +152,7 @@ private Q_SLOTS:
         const Window page;
         page.press(u"cmdApriIMG"_s);
         QCOMPARE(page.logo().image().size(), QSize(2, 1));
-        QCOMPARE(readFile(program_->folder() + u"/images/moto.GIF"_s), animation);
+        QCOMPARE(readFile(program().folder() + u"/images/moto.GIF"_s), animation);
     }
 
     void refusedLogos_data() {
@@ -195,12 +179,12 @@ private Q_SLOTS:
         if (!bytes.isEmpty()) {
             writeFile(dialogs_->answer, bytes);
         }
-        boxes_->expectBeginning(Icon::Critical, reason);
+        boxes().expectBeginning(Icon::Critical, reason);
         page.press(u"cmdApriIMG"_s);
         QCOMPARE(page.logo().Tag, tag);
         QCOMPARE(page.logo().geometry(), before);
         QVERIFY(page.isVisible(u"logo"_s));
-        QCOMPARE(QDir(program_->folder() + u"/images"_s).entryList(QDir::Files), QStringList(u"primo.jpg"_s));
+        QCOMPARE(QDir(program().folder() + u"/images"_s).entryList(QDir::Files), QStringList(u"primo.jpg"_s));
 
         dialogs_->answer.clear(); // dismissed
         page.press(u"cmdApriIMG"_s);
@@ -208,7 +192,7 @@ private Q_SLOTS:
     }
 
     void replacesAndKeeps() {
-        const QString own = program_->folder() + u"/images/Logo.JPG"_s;
+        const QString own = program().folder() + u"/images/Logo.JPG"_s;
         writePicture(own, {50, 50});
         QFile::setPermissions(own, QFile::ReadOwner);
         dialogs_->answer = own;
@@ -216,14 +200,14 @@ private Q_SLOTS:
         page.press(u"cmdApriIMG"_s); // lies there already
         QCOMPARE(QFile::permissions(own) & QFile::WriteOwner, QFile::Permissions());
         dialogs_->answer = elsewhere_->filePath(u"logo.jpg"_s);
-        writePicture(dialogs_->answer, {70, 50}, Qt::blue);
+        writePicture(dialogs_->answer, {70, 50});
         page.press(u"cmdApriIMG"_s); // another of that name, whatever its case, is replaced
         QCOMPARE(page.logo().size(), QSize(70, 50));
-        QCOMPARE(QDir(program_->folder() + u"/images"_s).entryList(QDir::Files), QStringList(u"Logo.JPG"_s));
-        QDir().mkpath(program_->folder() + u"/images/cartella.jpg"_s); // cannot be replaced
+        QCOMPARE(QDir(program().folder() + u"/images"_s).entryList(QDir::Files), QStringList(u"Logo.JPG"_s));
+        QDir().mkpath(program().folder() + u"/images/cartella.jpg"_s); // cannot be replaced
         QFile::copy(dialogs_->answer, elsewhere_->filePath(u"cartella.jpg"_s));
         dialogs_->answer = elsewhere_->filePath(u"cartella.jpg"_s);
-        boxes_->expectBeginning(Icon::Critical, u"Impossibile copiare l’immagine in: "_s);
+        boxes().expectBeginning(Icon::Critical, u"Impossibile copiare l’immagine in: "_s);
         page.press(u"cmdApriIMG"_s);
         QCOMPARE(page.logo().size(), QSize(70, 50));
     }
@@ -238,22 +222,20 @@ private Q_SLOTS:
     void storedLogo() {
         QFETCH(QString, stored);
         QFETCH(int, error);
-        writePicture(program_->folder() + u"/images/logo.JPG"_s, {30, 30});
-        program_->sql(u"UPDATE palestra SET logo='"_s + stored + u'\'');
+        writePicture(program().folder() + u"/images/logo.JPG"_s, {30, 30});
+        sql(u"UPDATE palestra SET logo='"_s + stored + u'\'');
         QCOMPARE(errorOf([] { frmPersonalizza::comune().load(); }), error);
         if (error == 0) {
             const Window page;
             page.press(u"cmdOK"_s); // from now on it is the present place
-            QVERIFY(program_->rows(row).first().contains(program_->folder()));
+            QVERIFY(rows(u"SELECT logo FROM palestra").contains(program().folder()));
         }
     }
 
 private:
-    std::unique_ptr<ScratchProgram> program_;
-    std::unique_ptr<ScriptedBoxes> boxes_;
     std::unique_ptr<ScriptedFileDialogs> dialogs_;
     std::unique_ptr<QTemporaryDir> elsewhere_;
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestPersonalizza)
+QUIVERDECK_TEST(TestPersonalizza)
 #include "test_personalizza.moc"

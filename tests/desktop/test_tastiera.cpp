@@ -1,6 +1,7 @@
 #include "athletes/UtentiNuovo.h"
 #include "athletes/UtentiSelezione.h"
-#include "cards/Esercizio.h"
+#include "cards/EditorTest.h"
+#include "cards/SchedaCorpo2.h"
 #include "cards/SchedeSelezione.h"
 #include "cards/mdiScheda.h"
 #include "cards/scheda.h"
@@ -17,12 +18,10 @@
 #include "desktop/zfrmTestDB.h"
 #include "figures/SchedaPreviewFigura.h"
 #include "platform/host/ProgramDirectory.h"
-#include "platform/toolkit/Application.h"
 #include "printing/PrinterCanvas.h"
 #include "printing/PrinterDaNonFare.h"
 #include "support/KeyboardWalk.h"
-#include "support/ProgrammaConFigure.h"
-#include "support/ToolkitTest.h"
+#include "support/WindowChecks.h"
 #include "templates/SchedeMODELLONuova.h"
 #include "templates/SchedeMODELLOSelezione.h"
 
@@ -30,7 +29,6 @@
 #include <QFile>
 
 using namespace Qt::StringLiterals;
-using namespace variabiliGlobali;
 
 using Window = std::function<QWidget*()>;
 Q_DECLARE_METATYPE(Window)
@@ -42,125 +40,99 @@ template <class F> QWidget* shown() {
     return &F::comune();
 }
 
-QWidget* editor(int card, int modello) {
-    idSchedaSelezionata = card;
-    idModelloSelezionato = modello;
-    idUtenteSelezionato = modello == 0 ? 1 : 0;
-    mdiScheda::comune().mostra();
-    return &mdiScheda::comune();
-}
-
 } // namespace
 
-/// Every window by keyboard and by ear.
-class TestTastiera : public QObject {
+/// Every window by keyboard and by ear, and with every text whole.
+class TestTastiera : public EditorTest {
     Q_OBJECT
+
+    /// The editor on a card with these figures.
+    QWidget* conFigure(std::initializer_list<int> figure) const {
+        apriConFigure(figure);
+        return &mdiScheda::comune();
+    }
+
 private Q_SLOTS:
-    void initTestCase() {
-        program_ = std::make_unique<ProgrammaConFigure>();
+    void init() {
+        EditorTest::init();
         for (int i = 0; i < 5; ++i) {
-            program_->immagine(u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
+            givePicture(program(), u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
         }
-        QDir().mkpath(program_->program.folder() + u"/HELP"_s);
-        QFile help(program_->program.folder() + u"/HELP/HELP.hlp"_s);
+        QDir().mkpath(program().folder() + u"/HELP"_s);
+        QFile help(program().folder() + u"/HELP/HELP.hlp"_s);
         QVERIFY(help.open(QIODevice::WriteOnly));
         help.write("<html><body>\n<!--capitolo Primo-->\n<!--pagina benvenuto|Benvenuti-->\n"
                    "<h1>Benvenuti</h1>\n<!--fine-->\n</body></html>\n");
         guida::file = host::joined(u"\\HELP\\HELP.hlp"_s);
-        program_->program.sql(u"INSERT INTO utenti (id_utente,nome,cognome) VALUES (1,'Ada','Rossi')"_s);
-        ::scheda card;
-        card.id_utente = 1;
-        card.categoria = u"Generale"_s;
-        card.PeriodoDal = u"01/03/2026"_s;
-        card.PeriodoAl = u"22/03/2026"_s;
-        for (int i = 1; i <= 3; ++i) {
-            auto line = std::make_shared<Esercizio>();
-            line->id_fig = i;
-            card.esercizi->Add(line);
-        }
-        card_ = card.save();
-        inChiusura = false;
     }
-    void cleanup() {
-        inChiusura = true;
-        if (mdiScheda::esiste()) {
-            mdiScheda::comune().puoiChiudere = true;
-        }
-        toolkit::Form::destroyAll();
-        inChiusura = false;
-        QVERIFY(program_->boxes.satisfied());
-    }
-    void cleanupTestCase() { program_.reset(); }
 
     void walk_data() {
-        QTest::addColumn<Window>("open");
         QTest::addColumn<int>("stops"); // at least; the toolbars take no focus
-        const auto row = [](const char* name, const Window& open, int stops) {
-            QTest::newRow(name) << open << stops;
+        QTest::addColumn<Window>("open");
+        const auto row = [](const char* name, int stops, const Window& open) {
+            QTest::newRow(name) << stops << open;
         };
-        row("Principale", shown<Principale>, 0);
-        row("UtentiSelezione", shown<UtentiSelezione>, 2);
-        row("UtentiNuovo", shown<UtentiNuovo>, 6);
-        row(
-            "SchedeSelezione",
-            [] {
-                SchedeSelezione::comune().idUtenteLista = 1;
-                return shown<SchedeSelezione>();
-            },
-            1);
-        row("SchedeMODELLOSelezione", shown<SchedeMODELLOSelezione>, 1);
-        row("SchedeMODELLONuova", shown<SchedeMODELLONuova>, 3);
-        row(
-            "the editor with a card", [this] { return editor(card_, 0); }, 15);
-        row(
-            "the editor with a template", [] { return editor(0, 1); }, 10);
-        row(
-            "the editor with a figure enlarged",
-            [this] {
-                QWidget* window = editor(card_, 0);
-                SchedaPreviewFigura::comune().LoadImage(program_->program.folder() + u"/images/Q/001.JPG"_s);
-                SchedaPreviewFigura::comune().show();
-                return window;
-            },
-            18);
-        row(
-            "PrinterCanvas",
-            [this] {
-                idSchedaSelezionata = card_;
-                return shown<PrinterCanvas>();
-            },
-            1);
-        row("PrinterDaNonFare", shown<PrinterDaNonFare>, 1);
-        row("frmPersonalizza", shown<frmPersonalizza>, 5);
-        row("frmAbout", shown<frmAbout>, 4);
-        row("frmDisplay", shown<frmDisplay>, 1);
-        row("ResolutionConfirm", shown<ResolutionConfirm>, 2);
-        row(
-            "FinestraGuida",
-            [] {
-                FinestraGuida::mostra({});
-                return static_cast<QWidget*>(&FinestraGuida::comune());
-            },
-            3);
-        row("zfrmTestDB", shown<zfrmTestDB>, 3);
-        row("zTESTDragAndDrop", shown<zTESTDragAndDrop>, 1);
-        row("zTestTreeViewImage", shown<zTestTreeViewImage>, 1);
+        row("Principale", 0, shown<Principale>);
+        row("UtentiSelezione", 2, shown<UtentiSelezione>);
+        row("UtentiNuovo", 6, shown<UtentiNuovo>);
+        row("SchedeSelezione", 1, [this] {
+            nuovaScheda();
+            SchedeSelezione::comune().idUtenteLista = 1;
+            SchedeSelezione::comune().fillList();
+            return shown<SchedeSelezione>();
+        });
+        row("SchedeMODELLOSelezione", 1, shown<SchedeMODELLOSelezione>);
+        row("SchedeMODELLONuova", 3, shown<SchedeMODELLONuova>);
+        row("the editor with a card", 15, [this] { return conFigure({1, 2, 3}); });
+        row("the editor with free lines", 15, [this] { return conFigure({0, 0}); });
+        row("the editor with a template", 10, [this] {
+            nuovoModello();
+            apri(0, 0, 2);
+            return &mdiScheda::comune();
+        });
+        row("the editor with a figure enlarged", 18, [this] {
+            QWidget* window = conFigure({1, 2, 3});
+            SchedaPreviewFigura::comune().LoadImage(program().folder() + u"/images/Q/001.JPG"_s);
+            SchedaPreviewFigura::comune().show();
+            return window;
+        });
+        row("SchedaCorpo2", 9, [] {
+            SchedaCorpo2::comune().schedaAperta = std::make_shared<::scheda>();
+            return shown<SchedaCorpo2>();
+        });
+        row("PrinterCanvas", 1, [this] {
+            esercizio(nuovaScheda(), 1, 1);
+            variabiliGlobali::idSchedaSelezionata = 1;
+            return shown<PrinterCanvas>();
+        });
+        row("PrinterDaNonFare", 1, shown<PrinterDaNonFare>);
+        row("frmPersonalizza", 5, shown<frmPersonalizza>);
+        row("frmAbout", 4, shown<frmAbout>);
+        row("frmDisplay", 1, shown<frmDisplay>);
+        row("ResolutionConfirm", 2, shown<ResolutionConfirm>);
+        row("FinestraGuida", 3, [] {
+            FinestraGuida::mostra({});
+            return static_cast<QWidget*>(&FinestraGuida::comune());
+        });
+        row("zfrmTestDB", 3, shown<zfrmTestDB>);
+        row("zTESTDragAndDrop", 1, shown<zTESTDragAndDrop>);
+        row("zTestTreeViewImage", 1, shown<zTestTreeViewImage>);
     }
     void walk() {
-        QFETCH(Window, open);
         QFETCH(int, stops);
+        QFETCH(Window, open);
         const QWidget& window = *open();
         QVERIFY(window.isVisible());
         QCOMPARE(namelessControls(window).join(u"; "_s), QString());
         QCOMPARE(leapsOfTab(window).join(u"; "_s), QString());
+        QCOMPARE(cutTexts(window).join(u"; "_s), QString());
         QVERIFY2(tabStops(window) >= stops, qPrintable(QString::number(tabStops(window))));
     }
 
     void pagesByKeyboard() {
-        auto* window = static_cast<mdiScheda*>(editor(card_, 0));
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        const auto active = [window] {
-            for (const toolkit::Form* page : window->pages()) {
+        conFigure({1});
+        const auto active = [] {
+            for (const toolkit::Form* page : mdiScheda::comune().pages()) {
                 if (page->isAncestorOf(QApplication::focusWidget())) {
                     return page->objectName();
                 }
@@ -178,11 +150,7 @@ private Q_SLOTS:
         QCOMPARE(pages, QStringList({u"SchedaSelezioneFIGURE"_s, u"SchedaIntestazione"_s, u"SchedaCorpo"_s,
                                      u"SchedaIntestazione"_s, u"SchedaSelezioneFIGURE"_s, u"SchedaCorpo"_s}));
     }
-
-private:
-    std::unique_ptr<ProgrammaConFigure> program_;
-    int card_ = 0;
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestTastiera)
+QUIVERDECK_TEST(TestTastiera)
 #include "test_tastiera.moc"

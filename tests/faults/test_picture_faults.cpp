@@ -3,6 +3,7 @@
 #include "core/Principale.h"
 #include "core/variabiliGlobali.h"
 #include "desktop/frmSplash.h"
+#include "figures/AreeCorpo.h"
 #include "figures/BodyMap.h"
 #include "platform/runtime/Error.h"
 #include "printing/PrinterCanvas.h"

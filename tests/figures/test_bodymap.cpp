@@ -1,28 +1,15 @@
-#include "figures/AreeCorpo.h"
 #include "figures/BodyMap.h"
-#include "platform/runtime/Error.h"
 #include "platform/toolkit/Twips.h"
-#include "support/ProgrammaConFigure.h"
-#include "support/ToolkitTest.h"
+#include "support/WindowTest.h"
 
 #include <QFrame>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// Whether two colours are the same but for what JPEG makes of them.
-bool simili(const QColor& a, const QColor& b) {
-    return qAbs(a.red() - b.red()) < 12 && qAbs(a.green() - b.green()) < 12 && qAbs(a.blue() - b.blue()) < 12;
-}
-
-} // namespace
-
-class TestBodyMap : public QObject {
+class TestBodyMap : public WindowTest {
     Q_OBJECT
-private:
-    std::unique_ptr<ProgrammaConFigure> programma_;
+
     std::unique_ptr<BodyMap> mappa_;
 
     /// Clicks a point in twips and gives what the map told.
@@ -43,39 +30,14 @@ private:
     QColor colore() const { return mappa_->grab().toImage().pixelColor(60, 10); }
 
 private Q_SLOTS:
-    void initTestCase() { programma_ = std::make_unique<ProgrammaConFigure>(); }
     void init() {
+        WindowTest::init();
         mappa_ = std::make_unique<BodyMap>(u"BodyMap1"_s, nullptr);
         mappa_->show();
     }
     void cleanup() {
         mappa_.reset();
-        QVERIFY(programma_->boxes.satisfied());
-    }
-    void cleanupTestCase() { programma_.reset(); }
-
-    void centri_data() {
-        QTest::addColumn<int>("x");
-        QTest::addColumn<int>("y");
-        QTest::addColumn<QString>("codice");
-        for (const AreaCorpo& area : areeCorpo()) {
-            const int x = area.left + area.width / 2;
-            const int y = area.top + area.height / 2;
-            // The first area of the table that holds the point lies on top.
-            for (const AreaCorpo& sopra : areeCorpo()) {
-                if (x >= sopra.left && x < sopra.left + sopra.width && y >= sopra.top &&
-                    y < sopra.top + sopra.height) {
-                    QTest::addRow("%s %d", area.nome, area.indice)
-                        << x << y << QString::fromLatin1(sopra.codice);
-                    break;
-                }
-            }
-        }
-    }
-    void centri() {
-        QFETCH(const int, x);
-        QFETCH(const int, y);
-        QTEST(clic(x, y), "codice");
+        WindowTest::cleanup();
     }
 
     void punti_data() {
@@ -92,7 +54,11 @@ private Q_SLOTS:
         QTest::newRow("below the feet") << 1200 << 2900 << QString();
         QTest::newRow("margin outside the picture") << 2830 << 3005 << QString();
     }
-    void punti() { centri(); }
+    void punti() {
+        QFETCH(const int, x);
+        QFETCH(const int, y);
+        QTEST(clic(x, y), "codice");
+    }
 
     void ogniClicSiDice() {
         QCOMPARE(clic(1200, 1200), u"ERE"_s);
@@ -105,13 +71,6 @@ private Q_SLOTS:
         QCOMPARE(eventi.count(), 0);
     }
 
-    void unTastoNonArriva() {
-        QCOMPARE(mappa_->focusPolicy(), Qt::NoFocus);
-        for (const QWidget* uno : mappa_->findChildren<QWidget*>()) {
-            QCOMPARE(uno->focusPolicy(), Qt::NoFocus);
-        }
-    }
-
     void bordiSoloNelDisegno() {
         QCOMPARE(mappa_->findChild<QFrame*>(u"POL_1"_s)->frameShape(), QFrame::Box);
         mappa_->onLoad();
@@ -122,29 +81,17 @@ private Q_SLOTS:
 
     void figureDellaMappa() {
         mappa_->onLoad();
-        QVERIFY(simili(colore(), ProgrammaConFigure::coloreMappa({})));
+        QVERIFY(alike(colore(), colourOfMap({})));
         mappa_->changeMuscle(u"DAL"_s);
-        QVERIFY(simili(colore(), ProgrammaConFigure::coloreMappa(u"DAL"_s)));
+        QVERIFY(alike(colore(), colourOfMap(u"DAL"_s)));
         mappa_->changeBackground({});
-        QVERIFY(simili(colore(), ProgrammaConFigure::coloreMappa(u"DAL"_s)));
-        try {
-            mappa_->changeMuscle(u"DEL"_s);
-            QFAIL("a code without a picture was marked");
-        } catch (const runtime::Error& errore) {
-            QCOMPARE(errore.number(), int(runtime::FileNotFound));
-        }
-        QVERIFY(simili(colore(), ProgrammaConFigure::coloreMappa(u"DAL"_s)));
+        QVERIFY(alike(colore(), colourOfMap(u"DAL"_s)));
+        QCOMPARE(errorOf([&] { return mappa_->changeMuscle(u"DEL"_s), 0; }), int(runtime::FileNotFound));
+        QVERIFY(alike(colore(), colourOfMap(u"DAL"_s)));
         mappa_->onLoad();
-        QVERIFY(simili(colore(), ProgrammaConFigure::coloreMappa({})));
-    }
-
-    void unaMappaPiuGrandeHaUnMargine() {
-        const QRect prima = mappa_->findChild<QFrame*>(u"TRA_0"_s)->geometry();
-        mappa_->resize(mappa_->size() * 2);
-        QCOMPARE(mappa_->findChild<QFrame*>(u"TRA_0"_s)->geometry(), prima);
-        QCOMPARE(mappa_->findChild<QFrame*>(u"Image1"_s)->size(), QSize(187, 199));
+        QVERIFY(alike(colore(), colourOfMap({})));
     }
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestBodyMap)
+QUIVERDECK_TEST(TestBodyMap)
 #include "test_bodymap.moc"

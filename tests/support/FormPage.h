@@ -4,13 +4,12 @@
 #include "platform/toolkit/ReportList.h"
 #include "support/WindowPage.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
 #include <functional>
 
-/// A form as a test sees it: a page with a list, and what a keyboard and an assistive tool find.
+/// A form as a test sees it: a page with a list.
 class FormPage : public WindowPage {
 public:
     explicit FormPage(toolkit::Form& form) : WindowPage(form) {}
@@ -27,35 +26,6 @@ public:
             all.append(cells.join(QLatin1Char('|')));
         }
         return all;
-    }
-
-    /// Names of the controls that Tab visits, in its order.
-    QStringList tabOrder() const {
-        QStringList names;
-        for (QWidget* next = window().nextInFocusChain(); next != &window();
-             next = next->nextInFocusChain()) {
-            if (takesTab(*next)) {
-                names.append(next->objectName());
-            }
-        }
-        return names;
-    }
-    /// Names of those that Tab visits and that have neither a text of their own nor an accessible name.
-    QStringList nameless() const {
-        QStringList names;
-        for (const QWidget* control : window().findChildren<QWidget*>()) {
-            if (takesTab(*control) && control->accessibleName().isEmpty() &&
-                qobject_cast<const QAbstractButton*>(control) == nullptr) {
-                names.append(control->objectName());
-            }
-        }
-        return names;
-    }
-
-private:
-    static bool takesTab(const QWidget& control) {
-        return (control.focusPolicy() & Qt::TabFocus) != 0 && control.isVisible() &&
-               control.focusProxy() == nullptr && !control.objectName().startsWith(QLatin1String("qt_"));
     }
 };
 

@@ -1,25 +1,19 @@
 #pragma once
 
-#include "figures/AreeCorpo.h"
 #include "support/ScratchProgram.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QImage>
+#include <QColor>
 
-/// Puts a small picture in the place of each file that the program loads at start and of the muscle map.
-inline void givePictures(const ScratchProgram& program) {
-    QStringList files = program.rows(QStringLiteral("SELECT figura FROM figure"));
-    files.append({QStringLiteral("images\\FolderXP.JPG"), QStringLiteral("images\\BodyMap\\corpo.JPG")});
-    for (const char* code : codiciMuscoli()) {
-        files.append(QStringLiteral("images\\BodyMap\\Corpo_%1.JPG").arg(QLatin1String(code)));
-    }
-    QImage picture(30, 30, QImage::Format_RGB32);
-    picture.fill(Qt::lightGray);
-    for (QString file : files) {
-        const QString path =
-            program.folder() + QLatin1Char('/') + file.replace(QLatin1Char('\\'), QLatin1Char('/'));
-        QDir().mkpath(QFileInfo(path).path());
-        picture.save(path, "JPG");
-    }
-}
+/// Gives the program a picture of a single colour for each figure of its store, for the neutral map, each
+/// marked map and the folder: all that it loads at start.
+void givePictures(const ScratchProgram& program);
+/// Writes a small JPEG; `file` is relative to `images`, with either kind of slash.
+void givePicture(const ScratchProgram& program, QString file, const QColor& colour);
+/// Adds a figure of a muscle group, with its picture.
+void addFigure(const ScratchProgram& program, int id_fig, double numero, const QString& muscolo,
+               const QString& file);
+
+QColor colourOfFigure(int id_fig);
+QColor colourOfMap(const QString& code); ///< the empty code: the neutral map
+/// Whether two colours are the same but for what JPEG makes of them.
+bool alike(const QColor& a, const QColor& b);

@@ -1,25 +1,21 @@
 #pragma once
 
-#include "support/ScratchProgram.h"
+#include "support/Pictures.h"
 #include "support/ScriptedBoxes.h"
 
-#include <QColor>
-#include <QString>
-
-/// A scratch program with pictures: one of a single colour for each figure, for the neutral map, for each
-/// marked map and for the folder. To its rows it adds the groups PET "Pettorali" (figure 1) and VUO "Vuoto"
-/// (none).
+/// A scratch program with pictures and scripted boxes, for what is not a test class.
 class ProgrammaConFigure {
 public:
-    ProgrammaConFigure();
+    ProgrammaConFigure() {
+        program.sql(QStringLiteral("INSERT INTO muscoli VALUES ('PET','Pettorali','Grande pettorale')"));
+        givePictures(program);
+    }
+
+    void figura(int id_fig, double numero, const QString& muscolo, const QString& file) const {
+        addFigure(program, id_fig, numero, muscolo, file);
+    }
+    void immagine(const QString& file, const QColor& colore) const { givePicture(program, file, colore); }
 
     ScratchProgram program;
     ScriptedBoxes boxes;
-
-    /// Adds a figure with its picture.
-    void figura(int id_fig, double numero, const QString& muscolo, const QString& file) const;
-    void immagine(const QString& file, const QColor& colore) const;
-
-    static QColor coloreFigura(int id_fig);
-    static QColor coloreMappa(const QString& codice); ///< the empty code: the neutral map
 };

@@ -50,10 +50,6 @@ void WindowPage::press(const QString& name) const {
     QTest::mouseClick(&control, Qt::LeftButton, {}, where);
 }
 
-void WindowPage::doublePress(const QString& name) const {
-    QTest::mouseDClick(&ready(name), Qt::LeftButton);
-}
-
 void WindowPage::type(const QString& name, const QString& text) const {
     QWidget& control = ready(name);
     QWidget* inside = &control;

@@ -28,7 +28,6 @@ public:
 
     /// Clicks the middle of a control that shows and is enabled.
     void press(const QString& name) const;
-    void doublePress(const QString& name) const;
     /// Puts the focus on a field by a click and replaces its text by typing.
     void type(const QString& name, const QString& text) const;
     /// Types at the field's caret, without a click.

@@ -1,45 +1,15 @@
 #include "cards/mdiScheda.h"
 #include "core/variabiliGlobali.h"
-#include "platform/toolkit/Combo.h"
-#include "platform/toolkit/ReportList.h"
-#include "support/Errors.h"
-#include "support/ProgrammaConFigure.h"
-#include "support/ToolkitTest.h"
-#include "support/WindowChecks.h"
-#include "support/WindowPage.h"
+#include "support/WindowTest.h"
 #include "templates/SchedaIntestazioneMODELLO.h"
 #include "templates/SchedaModello.h"
 #include "templates/SchedeMODELLONuova.h"
 #include "templates/SchedeMODELLOSelezione.h"
 
-#include <QMdiSubWindow>
-#include <QTimer>
-
 using namespace Qt::StringLiterals;
 using namespace variabiliGlobali;
-using host::Answer;
-using host::Icon;
 
 namespace {
-
-/// Works through `passi` once the form of kind F shows modally, and closes it if they have not.
-template <class F> void quandoSiApre(std::function<void()> passi) {
-    auto* attesa = new QTimer(qApp);
-    attesa->setSingleShot(true);
-    QObject::connect(attesa, &QTimer::timeout, attesa, [attesa, passi = std::move(passi)] {
-        attesa->deleteLater();
-        passi();
-        if (F::esiste()) {
-            F::comune().unload();
-        }
-    });
-    attesa->start(0);
-}
-
-template <class F> void modale(const std::function<void()>& passi) {
-    quandoSiApre<F>(passi);
-    F::comune().showModal();
-}
 
 class Selezione : public WindowPage {
 public:
@@ -56,40 +26,19 @@ public:
 
 } // namespace
 
-class TestFinestreModelli : public QObject {
+class TestFinestreModelli : public WindowTest {
     Q_OBJECT
-private:
-    std::unique_ptr<ProgrammaConFigure> programma_;
-
-    QStringList modelli() const {
-        return programma_->program.rows(
-            u"SELECT id_Scheda, id_cat, descrizione FROM schedeModello ORDER BY id_Scheda"_s);
+    QString ultimo() const {
+        return rows(
+            u"SELECT id_Scheda, id_cat, descrizione FROM schedeModello ORDER BY id_Scheda DESC LIMIT 1");
     }
 
 private Q_SLOTS:
     void init() {
-        programma_ = std::make_unique<ProgrammaConFigure>();
+        WindowTest::init();
         // Template 1, "Base", is supplied and of the first category.
-        programma_->program.sql(u"INSERT INTO schedeModello VALUES (2,2,'beta',0,''),(3,2,'Alfa',0,''),"
-                                "(10,2,'Gamma',1,''),(11,3,'Altro',0,'')"_s);
-        idUtenteSelezionato = 0;
-        idSchedaSelezionata = 0;
-        idModelloSelezionato = 0;
-        nomeModelloSelezionato.clear();
-    }
-    void cleanup() {
-        inChiusura = true;
-        if (mdiScheda::esiste()) {
-            mdiScheda::comune().puoiChiudere = true;
-            QVERIFY(mdiScheda::comune().unload());
-        }
-        if (SchedeMODELLOSelezione::esiste()) {
-            SchedeMODELLOSelezione::comune().unload();
-        }
-        toolkit::Application::purge();
-        inChiusura = false;
-        QVERIFY(programma_->boxes.satisfied());
-        programma_.reset();
+        sql(u"INSERT INTO schedeModello VALUES (2,2,'beta',0,''),(3,2,'Alfa',0,''),(10,2,'Gamma',1,''),"
+            "(11,3,'Altro',0,'')");
     }
 
     void pulsanti_data() {
@@ -113,7 +62,6 @@ private Q_SLOTS:
             }
         }
         QTEST(spenti.join(u' '), "spenti");
-        QCOMPARE(cutTexts(pagina.window()), QStringList());
     }
 
     void elencoPerCategoria() {
@@ -122,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(pagina.text(u"categoria"_s), u"Generale"_s); // the second entry
         QCOMPARE(pagina.elenco(), u"3=Alfa 2=beta 10=Gamma"_s);
         pagina.clickLine(u"LW"_s, 1);
-        programma_->program.sql(u"INSERT INTO schedeModello VALUES (12,2,'Aiuto',0,'')"_s);
+        sql(u"INSERT INTO schedeModello VALUES (12,2,'Aiuto',0,'')"_s);
         pagina.choose(u"categoria"_s, u"Recupero"_s);
         QCOMPARE(pagina.elenco(), u"11=Altro"_s);
         pagina.choose(u"categoria"_s, u"Generale"_s);
@@ -144,7 +92,7 @@ private Q_SLOTS:
         QFETCH(const int, utente);
         QFETCH(const QString, tasto);
         idUtenteSelezionato = utente;
-        modale<SchedeMODELLOSelezione>([&tasto] {
+        whenModal([&tasto](toolkit::Form&) {
             const Selezione pagina;
             pagina.clickLine(u"LW"_s, 1);
             if (tasto.isEmpty()) {
@@ -155,12 +103,13 @@ private Q_SLOTS:
                 pagina.press(tasto);
             }
         });
+        SchedeMODELLOSelezione::comune().showModal();
         QTEST(idModelloSelezionato, "risposta");
         QVERIFY(!SchedeMODELLOSelezione::esiste());
     }
 
     void senzaRigaLaSceltaFallisce() {
-        programma_->program.sql(u"DELETE FROM schedeModello"_s);
+        sql(u"DELETE FROM schedeModello"_s);
         idUtenteSelezionato = 1;
         SchedeMODELLOSelezione::comune().show();
         const Selezione pagina;
@@ -169,9 +118,9 @@ private Q_SLOTS:
             pagina.press(u"seleziona"_s);
             QCOMPARE(fine.lastNumber, int(runtime::ObjectNotSet));
         }
-        programma_->boxes.expect(Icon::Critical, u"Si è verificato un errore:\r"_s +
-                                                     runtime::standardDescription(runtime::ObjectNotSet) +
-                                                     u"\rContattare il supporto tecnico"_s);
+        boxes().expect(Icon::Critical, u"Si è verificato un errore:\r"_s +
+                                           runtime::standardDescription(runtime::ObjectNotSet) +
+                                           u"\rContattare il supporto tecnico"_s);
         pagina.press(u"elimina"_s);
         QVERIFY(pagina.window().isVisible());
     }
@@ -180,38 +129,38 @@ private Q_SLOTS:
         SchedeMODELLOSelezione::comune().show();
         const Selezione pagina;
         pagina.clickLine(u"LW"_s, 2);
-        programma_->boxes.expect(Icon::Critical,
-                                 u"Impossibile eliminare la scheda perchè è una scheda preimpostata!"_s);
+        boxes().expect(Icon::Critical,
+                       u"Impossibile eliminare la scheda perchè è una scheda preimpostata!"_s);
         pagina.press(u"elimina"_s);
         pagina.clickLine(u"LW"_s, 1);
-        programma_->boxes.expect(Icon::Question, u"Confermi?"_s, Answer::No);
+        boxes().expect(Icon::Question, u"Confermi?"_s, Answer::No);
         pagina.press(u"elimina"_s);
         QCOMPARE(pagina.elenco(), u"3=Alfa 2=beta 10=Gamma"_s);
-        programma_->boxes.expect(Icon::Question, u"Confermi?"_s, Answer::Yes);
-        programma_->boxes.expect(Icon::Information, u"Scheda eliminata"_s);
+        boxes().expect(Icon::Question, u"Confermi?"_s, Answer::Yes);
+        boxes().expect(Icon::Information, u"Scheda eliminata"_s);
         pagina.press(u"elimina"_s);
         QCOMPARE(pagina.elenco(), u"3=Alfa 10=Gamma"_s);
-        QCOMPARE(modelli().size(), 4);
+        QCOMPARE(rows(u"SELECT count(*) FROM schedeModello"), u"4"_s);
     }
 
     void nuova() {
-        modale<SchedeMODELLOSelezione>([] {
+        whenModal([](toolkit::Form&) {
             const Selezione pagina;
             pagina.choose(u"categoria"_s, u"Recupero"_s);
-            quandoSiApre<SchedeMODELLONuova>([] {
+            whenModal([](toolkit::Form& form) {
                 QVERIFY(!SchedeMODELLOSelezione::esiste()); // hidden and unloaded before
-                const WindowPage nuova(SchedeMODELLONuova::comune());
+                const WindowPage nuova(form);
                 QCOMPARE(nuova.text(u"categoria"_s), u"Recupero"_s);
-                QCOMPARE(cutTexts(nuova.window()), QStringList());
                 nuova.type(u"descrizione"_s, u"L'estate"_s);
                 nuova.press(u"cmdOk"_s);
             });
             pagina.press(u"nuova"_s);
             QCOMPARE(idModelloSelezionato, 12); // answered before the first window's call returns
         });
+        SchedeMODELLOSelezione::comune().showModal();
         QCOMPARE(idModelloSelezionato, 12);
         QCOMPARE(nomeModelloSelezionato, u"Recupero"_s);
-        QCOMPARE(modelli().last(), u"12|3|L`estate"_s);
+        QCOMPARE(ultimo(), u"12|3|L`estate"_s);
         QVERIFY(mdiScheda::comune().isVisible()); // its window alone
         QVERIFY(mdiScheda::comune().schedaAperta == nullptr);
     }
@@ -222,10 +171,9 @@ private Q_SLOTS:
         form.show();
         const WindowPage pagina(form);
         QCOMPARE(pagina.text(u"categoria"_s), u"Generale"_s);
-        programma_->boxes.expect(Icon::Critical, u"Inserire tutti i dati"_s);
+        boxes().expect(Icon::Critical, u"Inserire tutti i dati"_s);
         pagina.press(u"cmdOk"_s);
         QVERIFY(form.isVisible());
-        QCOMPARE(modelli().size(), 5);
         form.close(); // runs no code
         QCOMPARE(idModelloSelezionato, 7);
         SchedeMODELLONuova::comune().show();
@@ -233,25 +181,18 @@ private Q_SLOTS:
         altra.type(u"descrizione"_s, u"  "_s); // blanks are a text
         altra.key(u"descrizione"_s, Qt::Key_Return);
         QVERIFY(!SchedeMODELLONuova::esiste());
-        QCOMPARE(modelli().last(), u"12|2|  "_s);
+        QCOMPARE(ultimo(), u"12|2|  "_s);
         QCOMPARE(idModelloSelezionato, 12);
     }
 
-    void pocheCategorie_data() {
-        QTest::addColumn<QString>("istruzione");
-        QTest::newRow("none") << u"DELETE FROM categorie"_s;
-        QTest::newRow("one") << u"DELETE FROM categorie WHERE id_cat <> 1"_s;
-    }
     void pocheCategorie() {
-        QFETCH(const QString, istruzione);
-        programma_->program.sql(istruzione);
+        sql(u"DELETE FROM categorie WHERE id_cat <> 1");
         // The second entry is selected, and there is none.
         const auto carica = [](toolkit::Form& form) { return errorOf([&form] { return form.load(), 0; }); };
         QCOMPARE(carica(SchedeMODELLOSelezione::comune()), int(runtime::InvalidPropertyValue));
         QCOMPARE(carica(SchedeMODELLONuova::comune()), int(runtime::InvalidPropertyValue));
         mdiScheda::comune().schedaAperta = std::make_shared<SchedaModello>();
         QCOMPARE(carica(SchedaIntestazioneMODELLO::comune()), int(runtime::InvalidPropertyValue));
-        toolkit::Form::destroyAll();
     }
 
     void intestazione() {
@@ -261,7 +202,6 @@ private Q_SLOTS:
         const auto modello = std::dynamic_pointer_cast<SchedaModello>(mdiScheda::comune().schedaAperta);
         QCOMPARE(pagina.text(u"categoria"_s), u"Generale"_s);
         QCOMPARE(pagina.text(u"descrizione"_s), u"Alfa"_s);
-        QCOMPARE(cutTexts(pagina.window()), QStringList());
         const auto scritto = [&modello] { return !std::exchange(modello->isSaved, true); };
         scritto();
         pagina.typeOn(u"descrizione"_s, u"!"_s);
@@ -292,31 +232,17 @@ private Q_SLOTS:
 
     /// The dialog behind "Salva su nuovo Modello" was dismissed: the flow goes on with key 0.
     void nuovoModelloNonConfermato() {
-        programma_->program.sql(u"INSERT INTO utenti (id_utente, nome, cognome) VALUES (1,'Ada','Verdi')"_s);
+        sql(u"INSERT INTO utenti (id_utente, nome, cognome) VALUES (1,'Ada','Verdi')");
         idUtenteSelezionato = 1;
         mdiScheda::comune().mostra();
-        programma_->boxes.expect(Icon::Critical, u"Archivio Vuoto o Problemi di connessione!"_s);
-        programma_->boxes.expect(Icon::Information, u"Creata la nuova Scheda Modello ''"_s);
-        quandoSiApre<SchedeMODELLONuova>(
-            [] { QTest::keyClick(&SchedeMODELLONuova::comune(), Qt::Key_Escape); });
+        boxes().expect(Icon::Critical, u"Archivio Vuoto o Problemi di connessione!"_s);
+        boxes().expect(Icon::Information, u"Creata la nuova Scheda Modello ''"_s);
+        whenModal([](toolkit::Form& form) { QTest::keyClick(&form, Qt::Key_Escape); });
         WindowPage(mdiScheda::comune()).press(u"SalvaSuModello"_s);
-        QCOMPARE(modelli().last(), u"12|0|"_s);
+        QCOMPARE(ultimo(), u"12|0|"_s);
         QCOMPARE(idModelloSelezionato, 0);
-    }
-
-    void cinquecentoModelli() {
-        QString righe = u"INSERT INTO schedeModello VALUES (100,2,'n100',0,'')"_s;
-        for (int i = 101; i < 600; ++i) {
-            righe += u",(%1,2,'n%1',0,'')"_s.arg(i);
-        }
-        programma_->program.sql(righe);
-        SchedeMODELLOSelezione::comune().show();
-        const Selezione pagina;
-        const auto& lista = pagina.find<toolkit::ReportList>(u"LW"_s);
-        QCOMPARE(lista.count(), 503);
-        QCOMPARE(lista.cell(502, 1), u"n599"_s);
     }
 };
 
-QUIVERDECK_WINDOW_TEST_MAIN(TestFinestreModelli)
+QUIVERDECK_TEST(TestFinestreModelli)
 #include "test_finestre_modelli.moc"
