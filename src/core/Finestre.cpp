@@ -92,7 +92,9 @@ void disponiIntestazioneModello(const std::function<void(toolkit::Form&)>& dispo
 }
 
 void scaricaIntestazioneModello() {
-    SchedaIntestazioneMODELLO::comune().unload();
+    if (SchedaIntestazioneMODELLO::esiste()) {
+        SchedaIntestazioneMODELLO::comune().unload();
+    }
 }
 
 void mostraAnteprima() {

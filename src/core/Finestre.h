@@ -30,7 +30,7 @@ void mostraScheda();
 void scaricaScheda();
 
 // --- from the card editor ---
-/// The splash window's progress while the thumbnails load; nothing without the window.
+/// The splash window's progress while the thumbnails load.
 void avanzamentoMassimo(qint16 massimo);
 void avanzamentoPasso();
 

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -10,9 +11,10 @@ namespace toolkit {
 
 void waitForExposure(const QWidget& window, int milliseconds) {
     const QDeadlineTimer patience(milliseconds);
+    QTimer tick; // ends the waiting below
+    tick.start(20);
     while (window.isVisible() && !window.windowHandle()->isExposed() && !patience.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents,
-                                        20);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     }
 }
 

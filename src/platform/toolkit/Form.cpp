@@ -39,10 +39,6 @@ Form::~Form() {
     endModal();
 }
 
-ParentForm* Form::parentForm() const {
-    return parentForm_;
-}
-
 QWidget* Form::outer() const {
     return frame_ ? static_cast<QWidget*>(frame_.data()) : const_cast<Form*>(this);
 }

@@ -64,7 +64,6 @@ public:
     /// Makes the form a child page of `parent`: it stands inside its area, and outer sizes include the slim
     /// frame. Call in the constructor or before the first show.
     void setParentForm(ParentForm& parent);
-    ParentForm* parentForm() const;
 
     void setPointer(Pointer pointer);
 
@@ -74,7 +73,6 @@ public:
     bool isLoaded() const { return state_ == State::Loaded; }
     /// Unloaded for good; the instance only waits for its destruction.
     bool isGone() const { return state_ == State::Gone; }
-    bool isDialog() const { return modal_; }
 
     /// Loads, shows without waiting, activates. (QWidget::show does the same; hide() keeps the form loaded.)
     void show();
