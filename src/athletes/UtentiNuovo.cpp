@@ -79,8 +79,7 @@ void UtentiNuovo::onActivate() {
 }
 
 void UtentiNuovo::CmdSave_Click() {
-    // The notes count among what must be there, as they always did.
-    if (txtCognome.text().isEmpty() || txtNome.text().isEmpty() || txtNote.text().isEmpty() ||
+    if (txtCognome.text().isEmpty() || txtNome.text().isEmpty() ||
         runtime::dateText(txtDataNascita.value()).isEmpty()) {
         host::message(QStringLiteral("Mancano alcuni dati essenziali!"), host::Icon::Critical);
         return;
