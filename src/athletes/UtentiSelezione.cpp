@@ -145,7 +145,7 @@ void UtentiSelezione::eliminaUtente() {
         }
     } catch (const runtime::Error& error) {
         host::message(QStringLiteral("Si è verificato un errore:") + error.description() +
-                          QStringLiteral("\nContattare il supporto tecnico"),
+                          QStringLiteral("\rContattare il supporto tecnico"),
                       host::Icon::Critical);
     }
 }

@@ -107,8 +107,8 @@ void SchedeSelezione::elimina() {
             fillList();
         }
     } catch (const runtime::Error& error) {
-        host::message(QStringLiteral("Si è verificato un errore:\n") + error.description() +
-                          QStringLiteral("\nContattare il supporto tecnico"),
+        host::message(QStringLiteral("Si è verificato un errore:\r") + error.description() +
+                          QStringLiteral("\rContattare il supporto tecnico"),
                       host::Icon::Critical);
     }
 }

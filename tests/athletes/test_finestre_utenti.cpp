@@ -91,7 +91,7 @@ private Q_SLOTS:
         QCOMPARE(fatal.lastNumber, int{runtime::ObjectNotSet});
         boxes().expect(Icon::Critical, u"Si è verificato un errore:"_s +
                                            runtime::standardDescription(runtime::ObjectNotSet) +
-                                           u"\nContattare il supporto tecnico"_s);
+                                           u"\rContattare il supporto tecnico"_s);
         page.press(u"elimina"_s);
     }
 

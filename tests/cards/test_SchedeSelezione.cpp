@@ -83,9 +83,9 @@ private Q_SLOTS:
         }
         QCOMPARE(rows(u"SELECT id_scheda FROM schede"), u"3"_s);
         // An emptied list disables nothing: the next try tells.
-        boxes().expect(Icon::Critical, u"Si è verificato un errore:\n"_s +
+        boxes().expect(Icon::Critical, u"Si è verificato un errore:\r"_s +
                                            runtime::standardDescription(runtime::ObjectNotSet) +
-                                           u"\nContattare il supporto tecnico"_s);
+                                           u"\rContattare il supporto tecnico"_s);
         page.press(u"elimina"_s);
         page.press(u"seleziona"_s);
         QCOMPARE(idSchedaSelezionata, 77);

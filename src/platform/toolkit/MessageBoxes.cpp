@@ -27,6 +27,11 @@ QMessageBox::Icon picture(host::Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// The box breaks a line at a line feed alone; texts carry carriage returns too.
+QString lines(QString text) {
+    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+}
+
 } // namespace
 
 host::Answer MessageBoxes::show(host::Icon icon, const QString& text, host::Buttons buttons) {
@@ -36,7 +41,7 @@ host::Answer MessageBoxes::show(host::Icon icon, const QString& text, host::Butt
     box.setWindowTitle(host::title());
     box.setIcon(picture(icon));
     box.setTextFormat(Qt::PlainText);
-    box.setText(text);
+    box.setText(lines(text));
     if (buttons == host::Buttons::Ok) {
         QPushButton* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
         box.setDefaultButton(ok);
