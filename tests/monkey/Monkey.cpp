@@ -100,8 +100,13 @@ void Monkey::turn() {
         return;
     if (!answerStart())
         return;
-    if (number_ >= orders_.last && !hands_.dragging())
-        powerOff();
+    if (number_ >= orders_.last && !hands_.dragging()) {
+        // What the act under way has changed is kept once an event has ended in the loop it runs.
+        if (ended_)
+            powerOff();
+        ended_ = true;
+        return;
+    }
     const Act act = hands_.dragging() ? hands_.drop() : hands_.choose();
     if (act.run)
         perform(act);

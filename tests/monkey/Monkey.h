@@ -73,6 +73,7 @@ private:
     Hands hands_;
     Desk desk_;
     int number_;
+    bool ended_ = false; ///< the last act is done, and one turn more
     int waited_ = 0;
     bool settled_ = false;
     QSet<QString> forms_;
