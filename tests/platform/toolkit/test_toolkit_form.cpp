@@ -180,6 +180,12 @@ private Q_SLOTS:
         form->show();
         QVERIFY(QTest::qWaitForWindowActive(form));
         QCOMPARE(toolkit::dialogOwner(), form);
+        {
+            QWidget list(form, Qt::Window); // as a combo's list, which goes with the form
+            list.show();
+            QVERIFY(QTest::qWaitForWindowActive(&list));
+            QCOMPARE(toolkit::dialogOwner(), form);
+        }
         form->unload();
         QCOMPARE(toolkit::dialogOwner(), nullptr); // it only waits for its destruction, a box along with it
     }
