@@ -200,7 +200,8 @@ Act Hands::onWindow(QWidget& window) {
         return resize(window);
     if (kind < 16)
         return close(window);
-    if (kind < 19 && window.objectName() == u"Principale") // the technician's button
+    if (kind < 28 &&
+        window.objectName() == u"Principale") // the technician’s button, which is rarely in reach
         return key(window, Qt::Key_F12, Qt::ControlModifier | Qt::ShiftModifier);
     std::vector<QWidget*> controls;
     std::vector<int> upTo;

@@ -2,6 +2,7 @@
 
 #include "cards/SchedaApribile.h"
 #include "cards/SchedaCorpo.h"
+#include "cards/SchedaCorpo2.h"
 #include "cards/mdiScheda.h"
 #include "core/Principale.h"
 #include "platform/runtime/Conversions.h"
@@ -33,6 +34,15 @@ bool rowHolds(const QStringList& names, bool (*test)(const QString&)) {
 bool rowBeyond8Bits() {
     return rowHolds({u"recuperoMin"_s, u"recuperoSec"_s, u"serie"_s},
                     [](const QString& text) { return runtime::leadingNumber(text) > 255; });
+}
+
+/// The same in the page of one exercise, where minutes and seconds stand in one field.
+bool recoveryBeyond8Bits() {
+    if (!SchedaCorpo2::esiste())
+        return false;
+    const auto* field = SchedaCorpo2::comune().findChild<toolkit::TextBox*>(u"recupero"_s);
+    return field != nullptr && (runtime::leadingNumber(field->text().section(u':', 0, 0)) > 255 ||
+                                runtime::leadingNumber(field->text().section(u':', 1)) > 255);
 }
 
 /// The seconds are no number.
@@ -79,6 +89,7 @@ struct End {
 // Every error that the program lets through on purpose, and what must be so when it comes.
 constexpr End ends[] = {
     {runtime::Overflow, rowBeyond8Bits, "a row's number beyond 8 bits is an error, never wrapped"},
+    {runtime::Overflow, recoveryBeyond8Bits, "the same for the recovery of one exercise"},
     {runtime::Overflow, timesBeyond16Bits, "times beyond 16 bits are an error"},
     {runtime::TypeMismatch, secondsUnreadable,
      "leaving the seconds empty or with letters pasted in fails their strict conversion"},

@@ -57,6 +57,12 @@ public:
                         .arg(athlete)
                         .arg(1 + card % 3));
         }
+        for (int category = 1; category <= 3; ++category) {
+            p.sql(u"INSERT INTO schedeModello VALUES (%1,%2,'Mio %2',0,'nota')"_s.arg(100 + category)
+                      .arg(category));
+            p.sql(u"INSERT INTO EserciziModello VALUES (%1,1,%1,2,'30 sec','30 Hz','Low',1,20,3,'Statico','',"
+                  "'0','prima')"_s.arg(100 + category));
+        }
         for (int line = 1; line <= 40; ++line)
             p.sql(u"INSERT INTO Esercizi "
                   u"(NProg,ID_Scheda,ID_Fig,Durata,Frequenza,Ampiezza,RecuperoMin,RecuperoSec,"
