@@ -51,7 +51,7 @@ QByteArray fingerprint(const QString& shipped) {
             const QFileInfo info(root + u'/' + name);
             hash.addData((folder + u'/' + name).toUtf8());
             hash.addData(QByteArray::number(info.size()) + ' ' +
-                         QByteArray::number(info.lastModified().toSecsSinceEpoch()));
+                         QByteArray::number(info.lastModified().toMSecsSinceEpoch()));
         }
     }
     return hash.result().toHex();
