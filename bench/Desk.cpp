@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace bench {
 
 namespace {
@@ -20,7 +22,7 @@ void leaveOut(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const Q
 } // namespace
 
 void useVirtualScreen(const QString& folder) {
-    const QString description = folder + QStringLiteral("/screen.json");
+    const QString description = folder + u"/screen.json"_s;
     QFile file(description);
     if (!file.open(QIODevice::WriteOnly) ||
         file.write(

@@ -32,9 +32,8 @@ private:
         shape.group = group;
         shape.part = part;
         shape.material = material;
-        if (const auto index = muscleIndex(muscle)) {
+        if (const auto index = muscleIndex(muscle))
             shape.muscle = static_cast<std::int8_t>(*index);
-        }
         return shape;
     }
     static Group sidedGroup(Group left, int side) {
@@ -149,9 +148,8 @@ private:
         const auto part = sided(Part::Hand, side);
         const auto skin = Material::Skin;
         add(g, part, skin, h.origin, 2.4F, h.point({3, 0, 0}), 2.2F);
-        for (float y : {-2.3F, 0.0F, 2.3F}) {
+        for (float y : {-2.3F, 0.0F, 2.3F})
             add(g, part, skin, h.point({2, y * 0.7F, 0}), 1.7F, h.point({8.2F, y, 0}), 1.45F);
-        }
         const bool grip = shape == ArmPose::Grip;
         const bool open = shape == ArmPose::Open;
         const float bend1 = radians(grip ? 45.0F : open ? 3.0F : 28.0F);

@@ -60,9 +60,8 @@ void ground(QImage& image, const Camera& camera, const Shapes& shapes, const Joi
         for (int x = 0; x < image.width(); ++x) {
             const Vec3 from = camera.start(static_cast<float>(x) + 0.5F, static_cast<float>(y) + 0.5F);
             const Vec3 p = from + camera.into * (-from.z / camera.into.z);
-            if (std::fabs(p.x) > 226 || std::fabs(p.y) > 226) {
+            if (std::fabs(p.x) > 226 || std::fabs(p.y) > 226)
                 continue;
-            }
             const float dark = 0.34F * shadow.at(p - Vec3{camera.right.x, camera.right.y, 0} * 2.5F);
             if (dark > 0.004F) {
                 const auto grey = [dark](float to) { return static_cast<int>(255 - (255 - to) * dark); };
@@ -78,9 +77,8 @@ void layGhost(SampleMap& picture, const SampleMap& ghost) {
         const Sample& g = ghost.samples[i];
         Sample& p = picture.samples[i];
         const bool body = qAlpha(p.colour) != 0 && (p.key & 0x8000) == 0;
-        if (qAlpha(g.colour) == 0 || body || g.depth > p.depth + 0.5F) {
+        if (qAlpha(g.colour) == 0 || body || g.depth > p.depth + 0.5F)
             continue;
-        }
         if (qAlpha(p.colour) == 0) {
             p.colour = qRgba(qRed(g.colour), qGreen(g.colour), qBlue(g.colour), 190);
         } else {
@@ -99,17 +97,15 @@ std::vector<Vec3> roadOf(const Arrow& arrow, const Pose& pose, const Solver& sol
     std::vector<Vec3> road;
     for (int i = 0; i <= steps; ++i) {
         const bool end = i == 0 || i == steps;
-        if (!end && !Solver::alike(pose.body, pose.second)) {
+        if (!end && !Solver::alike(pose.body, pose.second))
             continue; // a limb changes its hold: the road goes straight
-        }
         const float t = static_cast<float>(i) / steps;
         const Vec3 p = end ? (i == 0 ? first : second).joint(arrow.point)
                            : solver.solve(Solver::between(pose.body, pose.second, t)).joint(arrow.point);
         road.push_back(p + camera.right * arrow.dx + camera.up * arrow.dy);
     }
-    if (!arrow.both) {
+    if (!arrow.both)
         std::reverse(road.begin(), road.end());
-    }
     return road;
 }
 
@@ -152,9 +148,8 @@ QImage Composer::draw(const Pose& pose, std::uint32_t trained, int wide, int hig
     std::vector<std::vector<Vec3>> roads;
     for (const auto& arrow : pose.arrows) {
         const auto& road = roads.emplace_back(roadOf(arrow, pose, solver, skeleton, moved, camera));
-        for (const Vec3& p : road) {
+        for (const Vec3& p : road)
             bounds.take(p, 7, camera);
-        }
     }
     fit(camera, bounds, small);
 
@@ -162,12 +157,9 @@ QImage Composer::draw(const Pose& pose, std::uint32_t trained, int wide, int hig
     const float plateTop = room.support("plate").frame.origin.z;
     Shapes casters = body;
     casters.insert(casters.end(), held.begin(), held.end());
-    for (const auto& s : room.shapes()) {
-        if (s.material == Material::Ball || s.material == Material::Cushion ||
-            s.material == Material::Column) {
+    for (const auto& s : room.shapes())
+        if (s.material == Material::Ball || s.material == Material::Cushion || s.material == Material::Column)
             casters.push_back(s);
-        }
-    }
     const Shadow plateShadow(casters, joints, {0, 0, plateTop}, Room::plateHalf, Room::plateHalf, plateTop,
                              1.5F);
 
@@ -190,14 +182,12 @@ QImage Composer::draw(const Pose& pose, std::uint32_t trained, int wide, int hig
 
     for (std::size_t i = 0; i < roads.size(); ++i) {
         std::vector<QPointF> road;
-        for (const Vec3& p : roads[i]) {
+        for (const Vec3& p : roads[i])
             road.emplace_back(camera.x(p), camera.y(p));
-        }
         Signs::arrow(image, road, pose.arrows[i].both);
     }
-    if (pose.forbidden) {
+    if (pose.forbidden)
         Signs::forbidden(image);
-    }
     return image;
 }
 

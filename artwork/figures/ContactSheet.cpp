@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace figures {
 
 void ContactSheet::make(const std::vector<Row>& rows, const std::filesystem::path& pictures,
@@ -25,39 +27,34 @@ void ContactSheet::make(const std::vector<Row>& rows, const std::filesystem::pat
         QPainter painter(&image);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.setPen(QColor(60, 70, 90));
-        QFont font(QStringLiteral("DejaVu Sans"));
+        QFont font(u"DejaVu Sans"_s);
         font.setPixelSize(10);
         painter.setFont(font);
         for (std::size_t i = 0; i < perSheet && first + i < rows.size(); ++i) {
             const Row& row = rows[first + i];
             const QString file = QString::fromStdString((pictures / (row.code + ".JPG")).string());
             const QImage figure(file);
-            if (figure.isNull()) {
+            if (figure.isNull())
                 throw PoseError(file.toStdString() + ": cannot be read");
-            }
             const int x = static_cast<int>(i % columns) * cellWide;
             const int y = static_cast<int>(i / columns) * cellHigh;
             const QImage small =
                 figure.scaled(cellWide - 6, 200, Qt::KeepAspectRatio, Qt::SmoothTransformation);
             painter.drawImage(x + (cellWide - small.width()) / 2, y, small);
             QString muscles;
-            for (const auto& m : row.muscles) {
+            for (const auto& m : row.muscles)
                 muscles += QLatin1Char(' ') + QString::fromStdString(m);
-            }
-            painter.drawText(QRect(x, y + 201, cellWide, 16), Qt::AlignCenter,
-                             QStringLiteral("%1 [%2]%3")
-                                 .arg(QString::fromStdString(row.code))
-                                 .arg(row.number)
-                                 .arg(muscles));
+            painter.drawText(
+                QRect(x, y + 201, cellWide, 16), Qt::AlignCenter,
+                u"%1 [%2]%3"_s.arg(QString::fromStdString(row.code)).arg(row.number).arg(muscles));
             painter.drawText(QRect(x + 2, y + 215, cellWide - 4, 28),
                              Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap,
                              QString::fromStdString(row.name));
         }
         painter.end();
         const auto file = out / ("figure-" + std::to_string(sheet) + ".jpg");
-        if (!image.save(QString::fromStdString(file.string()), "JPG", 82)) {
+        if (!image.save(QString::fromStdString(file.string()), "JPG", 82))
             throw PoseError(file.string() + ": cannot be written");
-        }
     }
 }
 

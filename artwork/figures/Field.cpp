@@ -20,9 +20,8 @@ constexpr float farthestJoin = 3.6F;
 float nearJoint(const Vec3& p, const Vec3& joint, float from, float to) {
     const Vec3 v = p - joint;
     const float d2 = dot(v, v);
-    if (d2 > to * to) {
+    if (d2 > to * to)
         return 0.25F;
-    }
     return 0.25F + 3.2F * (1 - smoothstep(from, to, std::sqrt(d2)));
 }
 
@@ -37,9 +36,8 @@ float Field::distance(const List& shapes, const Joints& joints, const Vec3& p) {
         const float k = softness[static_cast<std::size_t>(group)];
         float d = 1e9F;
         for (; i < shapes.size() && shapes[i]->group == group; ++i) {
-            if (d < 1e8F && shapes[i]->beyond(p, std::min(d + k, all + farthestJoin))) {
+            if (d < 1e8F && shapes[i]->beyond(p, std::min(d + k, all + farthestJoin)))
                 continue;
-            }
             const float one = shapes[i]->distance(p);
             d = group == Group::Object ? std::min(d, one) : join(d, one, k);
         }
@@ -93,21 +91,18 @@ Field::Owner Field::owner(const List& shapes, const Vec3& p, std::uint32_t train
             o.shape = shapes[i];
         }
     }
-    if (o.shape == nullptr || o.shape->group == Group::Object) {
+    if (o.shape == nullptr || o.shape->group == Group::Object)
         return o;
-    }
     float sum = 0;
     float warm = 0;
     for (std::size_t i = 0; i < n; ++i) {
         const float away = d[i] - least;
-        if (away > 2.5F || shapes[i]->group == Group::Object) {
+        if (away > 2.5F || shapes[i]->group == Group::Object)
             continue;
-        }
         const float w = std::exp(-away * 3.0F);
         sum += w;
-        if (shapes[i]->muscle >= 0 && (trained >> shapes[i]->muscle & 1U) != 0) {
+        if (shapes[i]->muscle >= 0 && (trained >> shapes[i]->muscle & 1U) != 0)
             warm += w;
-        }
     }
     o.tint = smoothstep(0.22F, 0.62F, warm / sum);
     return o;

@@ -15,16 +15,13 @@ void Jpeg::save(const QImage& image, const std::filesystem::path& file) {
         QImageWriter writer(&buffer, "jpg");
         writer.setQuality(quality);
         writer.setOptimizedWrite(true);
-        if (!writer.write(image)) {
+        if (!writer.write(image))
             break;
-        }
-        if (buffer.size() > heaviest) {
+        if (buffer.size() > heaviest)
             continue;
-        }
         QSaveFile out(QString::fromStdString(file.string()));
-        if (out.open(QIODevice::WriteOnly) && out.write(buffer.data()) == buffer.size() && out.commit()) {
+        if (out.open(QIODevice::WriteOnly) && out.write(buffer.data()) == buffer.size() && out.commit())
             return;
-        }
         break;
     }
     throw PoseError(file.string() + ": cannot be written, or stays too heavy");

@@ -9,9 +9,8 @@ constexpr int objectKey = 32 * (static_cast<int>(Group::Object) + 1);
 float step(const SampleMap& m, int x, int y, int dx, int dy) {
     const float d = m.at(x, y).depth;
     const auto side = [&](int sx, int sy) {
-        if (sx < 0 || sy < 0 || sx >= m.width || sy >= m.height) {
+        if (sx < 0 || sy < 0 || sx >= m.width || sy >= m.height)
             return 0.0F;
-        }
         return std::clamp(m.at(sx, sy).depth - d, -40.0F, 40.0F);
     };
     return side(x - dx, y - dy) + side(x + dx, y + dy);
@@ -26,9 +25,8 @@ void Lines::draw(SampleMap& picture, int fine) {
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
             const Sample& s = picture.at(x, y);
-            if (qAlpha(s.colour) == 0) {
+            if (qAlpha(s.colour) == 0)
                 continue;
-            }
             const bool object = s.key >= objectKey;
             float near = 0;
             float crease = 0;
@@ -50,9 +48,8 @@ void Lines::draw(SampleMap& picture, int fine) {
                     }
                 }
             }
-            if (border) {
+            if (border)
                 line = std::max(line, 0.55F);
-            }
             strength[static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width) +
                      static_cast<std::size_t>(x)] = line * (object ? 0.62F : 0.86F);
         }
@@ -68,9 +65,8 @@ void Lines::draw(SampleMap& picture, int fine) {
             s.colour =
                 qRgba(dark(qRed(s.colour), 14), dark(qGreen(s.colour), 16), dark(qBlue(s.colour), 28), 255);
         }
-        if (s.key >= objectKey) {
+        if (s.key >= objectKey)
             s.key |= 0x8000; // the ghost may be laid over things, never over the body
-        }
     }
 }
 

@@ -36,9 +36,8 @@ void leg(const Skeleton& s, int side) {
     const Vec3 local = s.pelvis.localDirection(thigh);
     within(degrees(std::asin(std::clamp(local.y * outward(side), -1.0F, 1.0F))), -35, 65,
            "hip" + name + " spread");
-    if (std::hypot(local.x, local.z) > 0.35F) {
+    if (std::hypot(local.x, local.z) > 0.35F)
         within(planar(local, {0, 0, -1}, {1, 0, 0}), -35, 140, "hip" + name + " flexion");
-    }
     within(planar(shank, thigh, -l.thigh.front), -4, 158, "knee" + name);
     // the sole against the shin: 90 degrees when the foot stands square
     within(planar(l.foot.ax, l.shank.front, shank), -42, 92, "ankle" + name);
@@ -96,9 +95,8 @@ void PoseCheck::contact(const Shapes& shapes, const Skeleton& s, const Room& roo
             }
             for (const auto& support : room.supports()) {
                 const float top = support.topUnder(p, 1.0F);
-                if (top < -500 || p.z < top - 25) { // beside or right under a bench is not in it
+                if (top < -500 || p.z < top - 25) // beside or right under a bench is not in it
                     continue;
-                }
                 if (low < top - 3.2F) {
                     throw PoseError(the(shape) + " sinks " + rounded(top - low) + " cm into the " +
                                     support.name);
@@ -124,14 +122,12 @@ void PoseCheck::contact(const Shapes& shapes, const Skeleton& s, const Room& roo
             }
         }
     }
-    if (least > 1.5F) {
+    if (least > 1.5F)
         throw PoseError("the body floats " + rounded(least) + " cm over what lies below it");
-    }
     for (const auto& thing : room.shapes()) {
         if (thing.material != Material::Column && thing.material != Material::Screen &&
-            thing.material != Material::Ball) {
+            thing.material != Material::Ball)
             continue;
-        }
         for (const auto& shape : shapes) {
             for (float t : {0.0F, 0.5F, 1.0F}) {
                 const float inside =

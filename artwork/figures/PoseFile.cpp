@@ -11,18 +11,16 @@ using Words = std::vector<std::string>;
 
 std::string contents(const std::filesystem::path& file) {
     std::ifstream in(file);
-    if (!in) {
+    if (!in)
         throw PoseError(file.string() + ": cannot be read");
-    }
     std::ostringstream text;
     text << in.rdbuf();
     return text.str();
 }
 
 float number(const Words& words, std::size_t index) {
-    if (index >= words.size()) {
+    if (index >= words.size())
         throw PoseError("a number is missing after \"" + words.back() + "\"");
-    }
     std::size_t used = 0;
     float value = 0;
     try {
@@ -30,9 +28,8 @@ float number(const Words& words, std::size_t index) {
     } catch (const std::exception&) {
         used = 0;
     }
-    if (used == 0 || used != words[index].size() || !std::isfinite(value)) {
+    if (used == 0 || used != words[index].size() || !std::isfinite(value))
         throw PoseError("\"" + words[index] + "\" is not a number");
-    }
     return value;
 }
 
@@ -41,25 +38,22 @@ Vec3 vector(const Words& words, std::size_t index) {
 }
 
 const std::string& word(const Words& words, std::size_t index) {
-    if (index >= words.size()) {
+    if (index >= words.size())
         throw PoseError("a word is missing after \"" + words.back() + "\"");
-    }
     return words[index];
 }
 
 void end(const Words& words, std::size_t index) {
-    if (index < words.size()) {
+    if (index < words.size())
         throw PoseError("\"" + words[index] + "\" is too much");
-    }
 }
 
 /// Reads "name number" pairs from `index` on into the fields given.
 void options(const Words& words, std::size_t index, const std::map<std::string, float*>& fields) {
     for (; index < words.size(); index += 2) {
         const auto field = fields.find(words[index]);
-        if (field == fields.end()) {
+        if (field == fields.end())
             throw PoseError("unknown word \"" + words[index] + "\"");
-        }
         *field->second = number(words, index + 1);
     }
 }
@@ -94,12 +88,10 @@ void PoseFile::statements(const std::string& text, const std::string& name, int 
         line = line.substr(0, line.find('#'));
         std::istringstream in(line);
         Words words;
-        for (std::string w; in >> w;) {
+        for (std::string w; in >> w;)
             words.push_back(w);
-        }
-        if (words.empty()) {
+        if (words.empty())
             continue;
-        }
         if (words[0] == "like") {
             if (depth > 3 || words.size() != 2) {
                 throw PoseError(name + ":" + std::to_string(n) +
@@ -126,9 +118,8 @@ void PoseFile::statement(const Words& words) {
     } else if (what == "view") {
         view(words);
     } else if (what == "platform") {
-        if (word(words, 1) != "low" && words[1] != "column") {
+        if (word(words, 1) != "low" && words[1] != "column")
             throw PoseError("a platform is \"column\" or \"low\"");
-        }
         pose_.column = words[1] == "column";
         end(words, 2);
     } else if (what == "forbidden") {
@@ -158,9 +149,8 @@ void PoseFile::statement(const Words& words) {
         end(words, pose_.ghost ? 1 : 2);
     } else if (!bodyStatement(words)) {
         const auto dotAt = what.find('.');
-        if (dotAt == std::string::npos) {
+        if (dotAt == std::string::npos)
             throw PoseError("unknown statement \"" + what + "\"");
-        }
         sidedStatement(what.substr(0, dotAt), what.substr(dotAt + 1), words);
     }
 }
@@ -169,11 +159,10 @@ void PoseFile::view(const Words& words) {
     static const std::map<std::string, float> named = {
         {"front", 14}, {"side", 72}, {"quarter", 40}, {"rear", 138}, {"back", 166}};
     std::size_t at = 2;
-    if (const auto n = named.find(word(words, 1)); n != named.end()) {
+    if (const auto n = named.find(word(words, 1)); n != named.end())
         pose_.azimuth = -n->second;
-    } else {
+    else
         pose_.azimuth = number(words, 1);
-    }
     if (words.size() > at && words[at] == "left") {
         pose_.azimuth = -pose_.azimuth;
         ++at;
@@ -234,13 +223,11 @@ bool PoseFile::bodyStatement(const Words& words) {
 }
 
 void PoseFile::sidedStatement(const std::string& what, const std::string& sides, const Words& words) {
-    if (sides != "left" && sides != "right" && sides != "both") {
+    if (sides != "left" && sides != "right" && sides != "both")
         throw PoseError("\"" + words[0] + "\": a side is left, right or both");
-    }
     for (std::size_t side : {std::size_t{Left}, std::size_t{Right}}) {
-        if ((sides == "left" && side == Right) || (sides == "right" && side == Left)) {
+        if ((sides == "left" && side == Right) || (sides == "right" && side == Left))
             continue;
-        }
         LegPose& leg = current().leg[side];
         ArmPose& arm = current().arm[side];
         if (what == "foot") {
@@ -278,9 +265,8 @@ void PoseFile::sidedStatement(const std::string& what, const std::string& sides,
                                                                          {"grip", ArmPose::Grip},
                                                                          {"auto", ArmPose::Auto}};
             const auto shape = shapes.find(word(words, 1));
-            if (shape == shapes.end()) {
+            if (shape == shapes.end())
                 throw PoseError("fingers are relaxed, open, grip or auto");
-            }
             arm.shape = shape->second;
             end(words, 2);
         } else {
@@ -322,9 +308,8 @@ void PoseFile::hand(ArmPose& arm, const Words& words) {
         arm.kind = kind == "bar" ? ArmPose::Bar : ArmPose::Stick;
         arm.along = number(words, 2);
         if (words.size() > 3) {
-            if (words[3] != "under" && words[3] != "over") {
+            if (words[3] != "under" && words[3] != "over")
                 throw PoseError("a grip is over or under");
-            }
             arm.under = words[3] == "under";
             end(words, 4);
         }

@@ -4,9 +4,8 @@ namespace figures {
 
 float Support::topUnder(const Vec3& p, float margin) const {
     const Vec3 q = frame.local(p);
-    if (std::fabs(q.x) > halfX - margin || std::fabs(q.y) > halfY - margin) {
+    if (std::fabs(q.x) > halfX - margin || std::fabs(q.y) > halfY - margin)
         return -1000;
-    }
     return frame.origin.z;
 }
 
@@ -15,17 +14,14 @@ Room::Room(const Pose& pose) : column_(pose.column) {
     supports_.push_back({"floor", Frame{}, 1000, 1000});
     supports_.push_back({"plate", Frame{}.at({0, 0, pose.column ? plateTop : 12.0F}), plateHalf, plateHalf});
     platform(pose.column);
-    for (const auto& a : pose.accessories) {
+    for (const auto& a : pose.accessories)
         accessory(a);
-    }
 }
 
 const Support& Room::support(const std::string& name) const {
-    for (const auto& s : supports_) {
-        if (s.name == name) {
+    for (const auto& s : supports_)
+        if (s.name == name)
             return s;
-        }
-    }
     throw PoseError("nothing called \"" + name + "\" stands in the room");
 }
 
@@ -46,14 +42,11 @@ void Room::platform(bool column) {
     const float h = plateHalf;
     box({-h, -h, top - 3.2F}, {h, h, top}, 1.4F, Material::PlateTop);
     box({-h + 3, -h + 3, 1.5F}, {h - 3, h - 3, top - 4.2F}, 2.0F, Material::Plate);
-    for (float x : {-1.0F, 1.0F}) {
-        for (float y : {-1.0F, 1.0F}) {
+    for (float x : {-1.0F, 1.0F})
+        for (float y : {-1.0F, 1.0F})
             tube({x * (h - 8), y * (h - 8), 1.2F}, {x * (h - 8), y * (h - 8), 2.0F}, 3.2F, Material::Rubber);
-        }
-    }
-    if (!column) {
+    if (!column)
         return;
-    }
     box({h - 4, -17, 1.0F}, {h + 21, 17, top - 6.0F}, 3.0F, Material::Plate);
     // the column leans a little to the front, its console looks at the user
     const Frame lean = Frame{}.at({h + 11, 0, 66}).turned(0, -2, 0);
@@ -130,9 +123,8 @@ Shapes Room::held(const Pose& pose, const Skeleton& skeleton) const {
     };
     for (const auto& a : pose.accessories) {
         for (int side : {Left, Right}) {
-            if (!(side == Left ? a.left : a.right)) {
+            if (!(side == Left ? a.left : a.right))
                 continue;
-            }
             const Frame& hand = skeleton.arm[static_cast<std::size_t>(side)].hand;
             const Vec3 grip = skeleton.gripPoint(side);
             if (a.kind == "dumbbells") {
@@ -147,9 +139,8 @@ Shapes Room::held(const Pose& pose, const Skeleton& skeleton) const {
                 const Vec3 anchor = figure_.point({ahead, outward(side) * (a.at.y > 0 ? a.at.y : 22.0F), 0}) +
                                     Vec3{0, 0, support("plate").frame.origin.z + 0.4F};
                 const float l = length(grip - anchor);
-                if (l < 20 || l > 215) {
+                if (l < 20 || l > 215)
                     throw PoseError("a strap would be " + std::to_string(static_cast<int>(l)) + " cm long");
-                }
                 add(anchor, grip, 1.0F, Material::Strap);
                 add(anchor - Vec3{0, 0, 0.6F}, anchor + Vec3{0, 0, 0.2F}, 2.2F, Material::Steel);
                 add(grip - hand.ay * 6, grip + hand.ay * 6, 1.6F, Material::Rubber);
@@ -158,9 +149,8 @@ Shapes Room::held(const Pose& pose, const Skeleton& skeleton) const {
     }
     Vec3 middle;
     Vec3 direction;
-    if (stick(pose, skeleton, middle, direction)) {
+    if (stick(pose, skeleton, middle, direction))
         add(middle - direction * 62, middle + direction * 62, 1.5F, Material::Wood);
-    }
     return out;
 }
 

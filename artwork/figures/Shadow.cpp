@@ -9,14 +9,11 @@ Shadow::Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, 
       dark_(static_cast<std::size_t>(nx_) * static_cast<std::size_t>(ny_), 0.0F) {
     constexpr float soft = 11; // cm over which the shadow fades
     Field::List list;
-    for (const auto& s : casters) {
-        if (std::min(s.a.z, s.b.z) - s.reach < z + soft) {
+    for (const auto& s : casters)
+        if (std::min(s.a.z, s.b.z) - s.reach < z + soft)
             list.push_back(&s);
-        }
-    }
-    if (list.empty()) {
+    if (list.empty())
         return;
-    }
     for (int iy = 0; iy < ny_; ++iy) {
         for (int ix = 0; ix < nx_; ++ix) {
             const Vec3 p{x0_ + static_cast<float>(ix) * step, y0_ + static_cast<float>(iy) * step, z + 0.5F};
@@ -29,9 +26,8 @@ Shadow::Shadow(const Shapes& casters, const Joints& joints, const Vec3& middle, 
 }
 
 float Shadow::value(int ix, int iy) const {
-    if (ix < 0 || iy < 0 || ix >= nx_ || iy >= ny_) {
+    if (ix < 0 || iy < 0 || ix >= nx_ || iy >= ny_)
         return 0;
-    }
     return dark_[static_cast<std::size_t>(iy) * static_cast<std::size_t>(nx_) + static_cast<std::size_t>(ix)];
 }
 

@@ -3,11 +3,9 @@
 namespace figures {
 
 std::optional<int> muscleIndex(std::string_view code) {
-    for (std::size_t i = 0; i < muscleCodes.size(); ++i) {
-        if (muscleCodes[i] == code) {
+    for (std::size_t i = 0; i < muscleCodes.size(); ++i)
+        if (muscleCodes[i] == code)
             return static_cast<int>(i);
-        }
-    }
     return std::nullopt;
 }
 

@@ -140,13 +140,12 @@ inline float Shape::distance(const Vec3& p) const {
         const float y2 = y * y * l2_;
         const float z2 = z * z * l2_;
         const float k = (rr_ > 0 ? 1.0F : -1.0F) * rr_ * rr_ * x2;
-        if ((z > 0 ? 1.0F : -1.0F) * a2_ * z2 > k) {
+        if ((z > 0 ? 1.0F : -1.0F) * a2_ * z2 > k)
             d = std::sqrt(x2 + z2) * il2_ - rb;
-        } else if ((y > 0 ? 1.0F : -1.0F) * a2_ * y2 < k) {
+        else if ((y > 0 ? 1.0F : -1.0F) * a2_ * y2 < k)
             d = std::sqrt(x2 + y2) * il2_ - ra;
-        } else {
+        else
             d = (std::sqrt(x2 * a2_ * il2_) + y * rr_) * il2_ - ra;
-        }
     }
     return hasCut_ ? std::max(d, dot(cutNormal_, p) - cutLimit_) : d;
 }

@@ -26,26 +26,22 @@ QPointF unitOf(const QPointF& v) {
 void Signs::arrow(QImage& image, const std::vector<QPointF>& road, bool both) {
     std::vector<QPointF> way = road;
     double length = 0;
-    for (std::size_t i = 1; i < way.size(); ++i) {
+    for (std::size_t i = 1; i < way.size(); ++i)
         length += QLineF(way[i - 1], way[i]).length();
-    }
-    if (way.size() < 2 || length < 4) {
+    if (way.size() < 2 || length < 4)
         return;
-    }
     constexpr double least = 62; // a shorter movement is drawn this long, so that it can be seen
     if (length < least) {
         const QPointF middle = (way.front() + way.back()) / 2;
-        for (auto& p : way) {
+        for (auto& p : way)
             p = middle + (p - middle) * (least / length);
-        }
     }
     constexpr double size = 25;
     const QPointF first = unitOf(way[0] - way[1]);
     const QPointF last = unitOf(way[way.size() - 1] - way[way.size() - 2]);
     QPainterPath line(way.front());
-    for (std::size_t i = 1; i < way.size(); ++i) {
+    for (std::size_t i = 1; i < way.size(); ++i)
         line.lineTo(way[i]);
-    }
     QPainterPath heads;
     heads.addPolygon(headAt(way.back(), last, size));
     heads.closeSubpath();

@@ -8,41 +8,31 @@ Vec3 Skeleton::gripPoint(int side) const {
 }
 
 Vec3 Skeleton::joint(const std::string& name) const {
-    if (name == "pelvis") {
+    if (name == "pelvis")
         return pelvis.origin;
-    }
-    if (name == "chest") {
+    if (name == "chest")
         return chest.point({0, 0, 14});
-    }
-    if (name == "head") {
+    if (name == "head")
         return head.point({0, 0, 9});
-    }
     const auto dotAt = name.find('.');
     const std::string side = dotAt == std::string::npos ? "" : name.substr(dotAt + 1);
     if (side == "left" || side == "right") {
         const std::size_t s = side == "left" ? Left : Right;
         const std::string part = name.substr(0, dotAt);
-        if (part == "hand") {
+        if (part == "hand")
             return gripPoint(static_cast<int>(s));
-        }
-        if (part == "elbow") {
+        if (part == "elbow")
             return arm[s].upper.to;
-        }
-        if (part == "shoulder") {
+        if (part == "shoulder")
             return arm[s].upper.from;
-        }
-        if (part == "knee") {
+        if (part == "knee")
             return leg[s].thigh.to;
-        }
-        if (part == "ankle") {
+        if (part == "ankle")
             return leg[s].foot.origin;
-        }
-        if (part == "toe") {
+        if (part == "toe")
             return leg[s].foot.point({body::ballAhead, 0, -6});
-        }
-        if (part == "heel") {
+        if (part == "heel")
             return leg[s].foot.point({-body::heelBack, 0, -5});
-        }
     }
     throw PoseError("no joint is called \"" + name + "\"");
 }

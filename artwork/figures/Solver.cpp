@@ -94,9 +94,8 @@ void Solver::leg(const BodyPose& body, Skeleton& s, int side) const {
     if (pose.kind == LegPose::Stand) {
         const Support& support = room_.support(pose.surface);
         if (support.topUnder(ground + fwd * body::ballAhead, 0) < 0 &&
-            support.topUnder(ground - fwd * body::heelBack, 0) < 0) {
+            support.topUnder(ground - fwd * body::heelBack, 0) < 0)
             throw PoseError(std::string("foot.") + sideName[i] + " stands beside the " + pose.surface);
-        }
     }
     l.foot.ax = fwd;
     l.foot.az = up;
@@ -204,14 +203,11 @@ float Solver::gap(const Shapes& shapes, const Room& room, const std::string& par
     };
     float least = 1000;
     for (const auto& s : shapes) {
-        if (!wanted(s)) {
+        if (!wanted(s))
             continue;
-        }
-        for (const auto& [p, r] : {std::pair{s.a, s.ra}, std::pair{s.b, s.rb}}) {
-            for (const auto& support : room.supports()) {
+        for (const auto& [p, r] : {std::pair{s.a, s.ra}, std::pair{s.b, s.rb}})
+            for (const auto& support : room.supports())
                 least = std::min(least, p.z - r - support.topUnder(p, 0));
-            }
-        }
     }
     return least;
 }
@@ -234,9 +230,8 @@ Skeleton Solver::solve(const BodyPose& body) const {
         float left = 0;
         for (int round = 0; round < 3; ++round) {
             left = gap(anatomy(s), room_, part);
-            if (left > 900) {
+            if (left > 900)
                 throw PoseError(std::string("part ").append(part).append(" has nothing to rest on"));
-            }
             b.pelvis.z -= left + 0.6F; // flesh yields a little
             s = once(b);
         }

@@ -39,21 +39,19 @@ void Solver::arm(const BodyPose& body, Skeleton& s, int side) const {
     Vec3 collar{-1.0F, o * body::shoulderHalf, body::shoulderUp + body.shrug};
     a.upper.from = s.chest.point(collar);
     for (int round = 0; round < 2; ++round) {
-        if (pose.kind == ArmPose::Angles) {
+        if (pose.kind == ArmPose::Angles)
             armByAngles(pose, s, side);
-        } else {
+        else
             place(pose, s, side);
-        }
         const Vec3 d = s.chest.localDirection(unit(a.upper.to - a.upper.from));
         const float rise = smoothstep(-0.3F, 1.0F, d.z);
         const Vec3 moved = collar + Vec3{1.5F * std::clamp(d.x, -0.6F, 1.0F), -o * 2.5F * rise, 5.0F * rise};
         a.upper.from = s.chest.point(moved);
     }
-    if (pose.kind == ArmPose::Angles) {
+    if (pose.kind == ArmPose::Angles)
         armByAngles(pose, s, side);
-    } else {
+    else
         place(pose, s, side);
-    }
 }
 
 void Solver::armByAngles(const ArmPose& pose, Skeleton& s, int side) const {
@@ -91,12 +89,10 @@ void Solver::orient(const ArmPose& pose, Skeleton& s, int side) const {
     ArmBones& a = s.arm[static_cast<std::size_t>(side)];
     const Vec3 fingers = unit(a.lower.to - a.lower.from);
     Vec3 palm = s.chest.direction({0, -outward(side), -0.25F});
-    if (std::fabs(dot(fingers, s.chest.ay)) > 0.8F) {
+    if (std::fabs(dot(fingers, s.chest.ay)) > 0.8F)
         palm = s.chest.direction({0.2F, 0, -1});
-    }
-    if (pose.hasPalm) {
+    if (pose.hasPalm)
         palm = sidedVector(pose.palmTo, side);
-    }
     a.hand = handFlat(fingers, palm, side);
     a.hand.origin = a.lower.to;
 }
@@ -185,9 +181,8 @@ void Solver::place(const ArmPose& pose, Skeleton& s, int side) const {
     } else if (pose.kind == ArmPose::Stick) {
         Vec3 middle;
         Vec3 direction;
-        if (!Room::stick(pose_, s, middle, direction)) {
+        if (!Room::stick(pose_, s, middle, direction))
             throw PoseError("a hand holds a stick that is not there");
-        }
         target = middle + direction * (pose.along * o);
         thumb = direction * -o;
         gripped = true;
@@ -197,9 +192,8 @@ void Solver::place(const ArmPose& pose, Skeleton& s, int side) const {
                  : pose.kind == ArmPose::Pelvis ? s.pelvis.point(at)
                                                 : f.point(at);
     }
-    if (pose.under) {
+    if (pose.under)
         thumb = -thumb;
-    }
     // the hand goes on from the forearm, whose direction the hand in turn decides: three rounds settle it
     Vec3 fingers = unit(target - a.upper.from);
     for (int round = 0; round < 4; ++round) {
@@ -218,12 +212,10 @@ void Solver::place(const ArmPose& pose, Skeleton& s, int side) const {
 }
 
 bool Solver::alike(const BodyPose& first, const BodyPose& second) {
-    for (std::size_t i = 0; i < 2; ++i) {
+    for (std::size_t i = 0; i < 2; ++i)
         if (first.leg[i].kind != second.leg[i].kind || first.leg[i].surface != second.leg[i].surface ||
-            first.arm[i].kind != second.arm[i].kind || first.arm[i].surface != second.arm[i].surface) {
+            first.arm[i].kind != second.arm[i].kind || first.arm[i].surface != second.arm[i].surface)
             return false;
-        }
-    }
     return first.rests == second.rests;
 }
 
@@ -247,18 +239,16 @@ BodyPose Solver::between(const BodyPose& first, const BodyPose& second, float t)
         if (l.kind == l0.kind) {
             l.at = mix(l0.at, l.at, t);
             for (auto field : {&LegPose::turn, &LegPose::heel, &LegPose::flex, &LegPose::spread,
-                               &LegPose::roll, &LegPose::knee, &LegPose::ankle}) {
+                               &LegPose::roll, &LegPose::knee, &LegPose::ankle})
                 blend(l.*field, l0.*field);
-            }
         }
         ArmPose& a = b.arm[i];
         const ArmPose& a0 = first.arm[i];
         if (a.kind == a0.kind) {
             a.at = mix(a0.at, a.at, t);
             for (auto field : {&ArmPose::turn, &ArmPose::along, &ArmPose::elev, &ArmPose::plane,
-                               &ArmPose::elbow, &ArmPose::twist}) {
+                               &ArmPose::elbow, &ArmPose::twist})
                 blend(a.*field, a0.*field);
-            }
         }
     }
     return b;

@@ -76,9 +76,8 @@ bool Tint::face(const Vec3& p, Vec3& base) const {
     const auto spot = [](float a, float b, float wide, float high) {
         return (a * a) / (wide * wide) + (b * b) / (high * high) < 1;
     };
-    if (p.x < 3) {
+    if (p.x < 3)
         return false;
-    }
     if (spot(y - 3.3F, p.z - 8.9F, 1.0F, 1.15F)) { // eye
         base = rgb(62, 48, 44);
         return true;
@@ -103,14 +102,12 @@ Material Tint::cover(const Hit& hit, int& detail) const {
     };
     switch (shape.group) {
     case Group::Torso:
-        if (s_.pelvis.local(hit.point).z < 8.5F && shape.part == Part::Pelvis) {
+        if (s_.pelvis.local(hit.point).z < 8.5F && shape.part == Part::Pelvis)
             return Material::Shorts;
-        }
         if (shape.part == Part::Chest) {
             const Vec3 neck = s_.chest.local(hit.point);
-            if (neck.z > 21.0F && std::hypot(neck.x + 1.0F, neck.y) < 7.6F + (neck.x > 0 ? 0.8F : 0)) {
+            if (neck.z > 21.0F && std::hypot(neck.x + 1.0F, neck.y) < 7.6F + (neck.x > 0 ? 0.8F : 0))
                 return Material::Skin;
-            }
         }
         return Material::Shirt;
     case Group::ArmLeft:
@@ -123,28 +120,24 @@ Material Tint::cover(const Hit& hit, int& detail) const {
     case Group::LegRight: {
         const auto& l = s_.leg[shape.group == Group::LegLeft ? 0 : 1];
         const bool thigh = shape.part == Part::Thigh || shape.part == Part::ThighR;
-        if (thigh) {
+        if (thigh)
             return along(l.thigh) < 0.50F ? Material::Shorts : Material::Skin;
-        }
-        if (along(l.shank) > 0.86F) {
+        if (along(l.shank) > 0.86F)
             return Material::Sole; // socks share the white of the soles
-        }
         return Material::Skin;
     }
     case Group::ShoeLeft:
     case Group::ShoeRight: {
         const auto& l = s_.leg[shape.group == Group::ShoeLeft ? 0 : 1];
         const Vec3 p = l.foot.local(hit.point);
-        if (p.x < body::ballAhead && p.z < -6.4F) {
+        if (p.x < body::ballAhead && p.z < -6.4F)
             return Material::Sole;
-        }
         if (p.x >= body::ballAhead) { // the toes bend at the ball
             const float a = radians(l.toeFlex);
             const float x = p.x - body::ballAhead;
             const float z = p.z + body::ankleHeight - 1.0F;
-            if (z * std::cos(a) - x * std::sin(a) < 1.2F) {
+            if (z * std::cos(a) - x * std::sin(a) < 1.2F)
                 return Material::Sole;
-            }
         }
         return Material::Shoe;
     }
@@ -170,9 +163,8 @@ void Tint::colour(const Hit& hit, Sample& sample) const {
         // rubber studs in rows, and the shadow of whoever stands here
         const float gx = hit.point.x - 6.0F * std::round(hit.point.x / 6.0F);
         const float gy = hit.point.y - 6.0F * std::round(hit.point.y / 6.0F);
-        if (std::max(std::fabs(hit.point.x), std::fabs(hit.point.y)) < 34.5F) {
+        if (std::max(std::fabs(hit.point.x), std::fabs(hit.point.y)) < 34.5F)
             l.base = l.base * (std::hypot(gx, gy) < 1.5F ? 0.80F : 0.93F);
-        }
         open = std::min(open + 0.15F, 1.0F) *
                (1 - 0.55F * plateShadow_.at(hit.point - Vec3{light_.x, light_.y, 0} * -3.0F));
     }
@@ -201,16 +193,13 @@ void Tint::colour(const Hit& hit, Sample& sample) const {
         sample.key =
             static_cast<std::uint16_t>(static_cast<int>(material) + 32 * (static_cast<int>(shape.group) - 1));
     }
-    if (shape.group == Group::Torso && (material == Material::Shirt || material == Material::Shorts)) {
+    if (shape.group == Group::Torso && (material == Material::Shirt || material == Material::Shorts))
         sample.key = static_cast<std::uint16_t>(static_cast<int>(material));
-    }
     const bool limb = shape.group >= Group::ArmLeft && shape.group <= Group::LegRight;
-    if (limb && (material == Material::Shirt || material == Material::Shorts)) { // one garment, one key
+    if (limb && (material == Material::Shirt || material == Material::Shorts)) // one garment, one key
         sample.key = static_cast<std::uint16_t>(static_cast<int>(material));
-    }
-    if (shape.group == Group::Head || (shape.group == Group::Torso && material == Material::Skin)) {
+    if (shape.group == Group::Head || (shape.group == Group::Torso && material == Material::Skin))
         sample.key = static_cast<std::uint16_t>(static_cast<int>(material) + 32 * 2);
-    }
 }
 
 Ghost::Ghost(const Camera& camera) : light_(lightOf(camera)) {}

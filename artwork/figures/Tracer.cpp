@@ -22,12 +22,10 @@ std::size_t at(int row, int width, int column) {
 
 /// Whether the pixel continues its neighbour: same surface, colour and plane.
 bool calm(const Sample& a, const Sample& b, float predicted) {
-    if (qAlpha(a.colour) != qAlpha(b.colour) || a.key != b.key) {
+    if (qAlpha(a.colour) != qAlpha(b.colour) || a.key != b.key)
         return false;
-    }
-    if (qAlpha(a.colour) == 0) {
+    if (qAlpha(a.colour) == 0)
         return true;
-    }
     const int change = std::abs(qRed(a.colour) - qRed(b.colour)) +
                        std::abs(qGreen(a.colour) - qGreen(b.colour)) +
                        std::abs(qBlue(a.colour) - qBlue(b.colour));
@@ -60,26 +58,23 @@ Tracer::Tile Tracer::tileAt(const Camera& camera, const std::vector<Flat>& flat,
     for (std::size_t i = 0; i < flat.size(); ++i) {
         const Flat& f = flat[i];
         const float d = toSegment(cx, cy, f.ax, f.ay, f.bx, f.by) - radius;
-        if (d > (f.reach + margin) * camera.scale) {
+        if (d > (f.reach + margin) * camera.scale)
             continue;
-        }
         tile.list.push_back(&shapes_[i]);
         if (d <= (f.reach + 0.8F) * camera.scale) { // soft joins swell a little
             tile.nearest = std::min(tile.nearest, f.nearest - 1);
             tile.farthest = std::max(tile.farthest, f.farthest + 1);
         }
     }
-    if (tile.nearest >= tile.farthest) {
+    if (tile.nearest >= tile.farthest)
         return tile;
-    }
     // one thick ray for the whole tile skips the empty room before the first surface
     const float thick = radius / camera.scale;
     const Vec3 middle = camera.start(cx, cy);
     for (int i = 0; i < 40 && tile.nearest < tile.farthest; ++i) {
         const float d = Field::distance(tile.list, joints_, middle + camera.into * tile.nearest) - thick;
-        if (d < 0.4F) {
+        if (d < 0.4F)
             break;
-        }
         tile.nearest += d;
     }
     return tile;
@@ -92,14 +87,12 @@ bool Tracer::ray(const Camera& camera, const Surface& surface, const Tile& tile,
     float d = 0;
     for (int i = 0; i < 60 && t < tile.farthest; ++i) {
         d = Field::distance(tile.list, joints_, from + camera.into * t);
-        if (d < touch) {
+        if (d < touch)
             break;
-        }
         t += d;
     }
-    if (t >= tile.farthest || d > 0.3F) {
+    if (t >= tile.farthest || d > 0.3F)
         return false;
-    }
     Hit hit;
     hit.depth = t;
     hit.point = from + camera.into * t;
@@ -128,9 +121,8 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
     for (int y0 = 0; y0 < camera.height; y0 += tileSize) {
         for (int x0 = 0; x0 < camera.width; x0 += tileSize) {
             const Tile& tile = tiles.emplace_back(tileAt(camera, flat, x0, y0));
-            if (tile.nearest >= tile.farthest) {
+            if (tile.nearest >= tile.farthest)
                 continue;
-            }
             for (int y = y0; y < std::min(y0 + tileSize, camera.height); ++y) {
                 for (int x = x0; x < std::min(x0 + tileSize, camera.width); ++x) {
                     Vec3 n;
@@ -144,9 +136,8 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
             }
         }
     }
-    if (fine == 1) {
+    if (fine == 1)
         return coarse;
-    }
     SampleMap map(camera.width * fine, camera.height * fine);
     for (int y = 0; y < camera.height; ++y) {
         for (int x = 0; x < camera.width; ++x) {
@@ -162,9 +153,8 @@ SampleMap Tracer::trace(const Camera& camera, const Surface& surface, int fine) 
                                      slope.y * static_cast<float>(ny - y));
                 }
             }
-            if (quiet && qAlpha(s.colour) == 0) {
+            if (quiet && qAlpha(s.colour) == 0)
                 continue;
-            }
             const Tile& tile = tiles[at(y / tileSize, across, x / tileSize)];
             for (int sy = 0; sy < fine; ++sy) {
                 for (int sx = 0; sx < fine; ++sx) {

@@ -40,9 +40,8 @@ constexpr Vec3 mix(const Vec3& a, const Vec3& b, float t) {
 /// left.
 inline Vec3 perpendicular(const Vec3& v, const Vec3& axis, const Vec3& spare) {
     Vec3 p = v - axis * dot(v, axis);
-    if (length(p) < 1e-3F) {
+    if (length(p) < 1e-3F)
         p = spare - axis * dot(spare, axis);
-    }
     return unit(p);
 }
 

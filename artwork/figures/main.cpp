@@ -26,13 +26,11 @@ int usage() {
 void depfile(const Path& file, const Path& target, const std::vector<Path>& sources) {
     std::ofstream out(file);
     out << target.string() << ":";
-    for (const auto& s : sources) {
+    for (const auto& s : sources)
         out << " " << s.string();
-    }
     out << "\n";
-    if (!out) {
+    if (!out)
         throw PoseError(file.string() + ": cannot be written");
-    }
 }
 
 /// Says which pose an error belongs to.
@@ -45,17 +43,15 @@ void save(const Path& poseFile, std::uint32_t trained, int wide, int high, const
     } catch (const PoseError& e) {
         throw PoseError(pose.name + ": " + e.what());
     }
-    if (!depends.empty()) {
+    if (!depends.empty())
         depfile(depends, out, sources);
-    }
 }
 
 void draw(const std::vector<std::string>& args) {
     const auto rows = Catalogue::read(args[1]);
     const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row& r) { return r.code == args[3]; });
-    if (row == rows.end()) {
+    if (row == rows.end())
         throw PoseError(args[3] + " is not in the list");
-    }
     save(Path(args[2]) / (row->code + ".pose"), row->trained, Composer::width, Composer::height, args[4],
          args.size() > 5 ? args[5] : "");
 }
@@ -64,9 +60,8 @@ int warn(const std::vector<std::string>& args) {
     const auto cross = args[2].find('x');
     const int wide = std::atoi(args[2].c_str());
     const int high = cross == std::string::npos ? 0 : std::atoi(args[2].c_str() + cross + 1);
-    if (wide < 100 || high < 100 || wide > 2000 || high > 2000) {
+    if (wide < 100 || high < 100 || wide > 2000 || high > 2000)
         return usage();
-    }
     save(args[1], 0, wide, high, args[3], args.size() > 4 ? args[4] : "");
     return 0;
 }
@@ -80,9 +75,8 @@ int main(int argc, char** argv) {
             draw(args);
             return 0;
         }
-        if ((args.size() == 4 || args.size() == 5) && args[0] == "warn") {
+        if ((args.size() == 4 || args.size() == 5) && args[0] == "warn")
             return warn(args);
-        }
         if (args.size() == 4 && args[0] == "sheets") {
             ContactSheet::make(Catalogue::read(args[1]), args[2], args[3]);
             return 0;

@@ -7,6 +7,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 /// The look of a colour under the pointer: fuller and a little lighter.
 QColor hotColour(const QColor& colour) {
@@ -20,7 +22,7 @@ QColor hotColour(const QColor& colour) {
 /// Rewrites the colours of the theme's style classes.
 QByteArray recoloured(const QByteArray& svg, const QColor& tint, bool hot) {
     static const QRegularExpression rule(
-        QStringLiteral("\\.ColorScheme-(\\w+)\\s*\\{\\s*color\\s*:\\s*(#[0-9a-fA-F]{6})\\s*;?\\s*\\}"));
+        u"\\.ColorScheme-(\\w+)\\s*\\{\\s*color\\s*:\\s*(#[0-9a-fA-F]{6})\\s*;?\\s*\\}"_s);
     const QString text = QString::fromUtf8(svg);
     QString result;
     qsizetype from = 0;
@@ -30,7 +32,7 @@ QByteArray recoloured(const QByteArray& svg, const QColor& tint, bool hot) {
         const QColor own(match.captured(2));
         const QColor colour = isText ? tint : hot ? hotColour(own) : own;
         result += text.mid(from, match.capturedStart() - from);
-        result += QStringLiteral(".ColorScheme-%1{color:%2;}").arg(match.captured(1), colour.name());
+        result += u".ColorScheme-%1{color:%2;}"_s.arg(match.captured(1), colour.name());
         from = match.capturedEnd();
     }
     return (result + text.mid(from)).toUtf8();
@@ -41,7 +43,7 @@ QByteArray IconTheme::source(const QString& name, int side, int& drawnFor) const
     // Lines stay crisp when the drawing's own size divides the asked one; 22 is the theme's name for 24.
     const int wanted = side >= 32 ? 32 : side >= 22 ? 22 : 16;
     for (const int size : {wanted, 22, 32, 16}) {
-        QFile file(folder_.filePath(QStringLiteral("actions/%1/%2.svg").arg(size).arg(name)));
+        QFile file(folder_.filePath(u"actions/%1/%2.svg"_s.arg(size).arg(name)));
         if (!file.open(QIODevice::ReadOnly))
             continue;
         QByteArray svg = file.readAll();
@@ -51,15 +53,14 @@ QByteArray IconTheme::source(const QString& name, int side, int& drawnFor) const
             return svg;
         }
     }
-    throw std::runtime_error(
-        QStringLiteral("%1: there is no icon %2").arg(folder_.path(), name).toStdString());
+    throw std::runtime_error(u"%1: there is no icon %2"_s.arg(folder_.path(), name).toStdString());
 }
 
 QImage IconTheme::draw(const QString& name, int side, int ratio, const QColor& tint, bool hot) const {
     int drawnFor = 0;
     QSvgRenderer renderer(recoloured(source(name, side, drawnFor), tint, hot));
     if (!renderer.isValid())
-        throw std::runtime_error(QStringLiteral("the icon %1 cannot be read").arg(name).toStdString());
+        throw std::runtime_error(u"the icon %1 cannot be read"_s.arg(name).toStdString());
     QImage image(side * ratio, side * ratio, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -13,6 +13,8 @@
 #include <exception>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int sizes[] = {16, 24, 32};
 
@@ -22,13 +24,13 @@ struct Tint {
 
 Tint tintOf(const QString& name) {
     static const QHash<QString, Tint> tints{
-        {QStringLiteral("testo"), {QColor(0x3a, 0x44, 0x54), QColor(0x4a, 0x62, 0xd8)}},
-        {QStringLiteral("accento"), {QColor(0x3f, 0x51, 0xb5), QColor(0x4f, 0x6c, 0xff)}},
-        {QStringLiteral("positivo"), {QColor(0x2e, 0x8b, 0x57), QColor(0x22, 0xb4, 0x6a)}},
-        {QStringLiteral("negativo"), {QColor(0xc0, 0x39, 0x2b), QColor(0xf0, 0x4b, 0x38)}},
+        {u"testo"_s, {QColor(0x3a, 0x44, 0x54), QColor(0x4a, 0x62, 0xd8)}},
+        {u"accento"_s, {QColor(0x3f, 0x51, 0xb5), QColor(0x4f, 0x6c, 0xff)}},
+        {u"positivo"_s, {QColor(0x2e, 0x8b, 0x57), QColor(0x22, 0xb4, 0x6a)}},
+        {u"negativo"_s, {QColor(0xc0, 0x39, 0x2b), QColor(0xf0, 0x4b, 0x38)}},
     };
     if (!tints.contains(name))
-        throw std::runtime_error(QStringLiteral("there is no tint %1").arg(name).toStdString());
+        throw std::runtime_error(u"there is no tint %1"_s.arg(name).toStdString());
     return tints.value(name);
 }
 
@@ -37,16 +39,15 @@ void drawOne(const IconTheme& theme, const QStringList& fields, const QDir& targ
     for (const int size : sizes) {
         for (const bool hot : {false, true}) {
             for (const int ratio : {1, 2}) {
-                const QString tail = QStringLiteral("_%1%2%3.png")
-                                         .arg(size)
+                const QString tail = u"_%1%2%3.png"_s.arg(size)
                                          .arg(QLatin1String(hot ? "_hot" : ""))
                                          .arg(QLatin1String(ratio == 2 ? "@2x" : ""));
                 const QString file = fields.at(0) + QLatin1Char('_') + fields.at(1) + tail;
                 if (!theme.draw(fields.at(2), size, ratio, hot ? tint.hot : tint.normal, hot)
                          .save(target.filePath(file)))
-                    throw std::runtime_error(QStringLiteral("%1 cannot be written").arg(file).toStdString());
-                resources << QStringLiteral("<file alias=\"%1/%2%3\">%4</file>\n")
-                                 .arg(fields.at(0), fields.at(1), tail, file);
+                    throw std::runtime_error(u"%1 cannot be written"_s.arg(file).toStdString());
+                resources << u"<file alias=\"%1/%2%3\">%4</file>\n"_s.arg(fields.at(0), fields.at(1), tail,
+                                                                          file);
             }
         }
     }
@@ -55,12 +56,12 @@ void drawOne(const IconTheme& theme, const QStringList& fields, const QDir& targ
 void drawAll(const QString& list, const QString& theme, const QString& folder) {
     QFile source(list);
     if (!source.open(QIODevice::ReadOnly))
-        throw std::runtime_error(QStringLiteral("%1 cannot be read").arg(list).toStdString());
+        throw std::runtime_error(u"%1 cannot be read"_s.arg(list).toStdString());
     const QDir target(folder);
-    target.mkpath(QStringLiteral("."));
-    QFile index(target.filePath(QStringLiteral("icone.qrc")));
+    target.mkpath(u"."_s);
+    QFile index(target.filePath(u"icone.qrc"_s));
     if (!index.open(QIODevice::WriteOnly))
-        throw std::runtime_error(QStringLiteral("%1 cannot be written").arg(index.fileName()).toStdString());
+        throw std::runtime_error(u"%1 cannot be written"_s.arg(index.fileName()).toStdString());
     QTextStream resources(&index);
     resources << "<RCC><qresource prefix=\"/icone\">\n";
     const QStringList lines =
@@ -70,7 +71,7 @@ void drawAll(const QString& list, const QString& theme, const QString& folder) {
             continue;
         const QStringList fields = line.split(QLatin1Char(';'));
         if (fields.size() != 4)
-            throw std::runtime_error(QStringLiteral("four fields, please: %1").arg(line).toStdString());
+            throw std::runtime_error(u"four fields, please: %1"_s.arg(line).toStdString());
         drawOne(IconTheme(theme), fields, target, resources);
     }
     resources << "</qresource></RCC>\n";

@@ -4,6 +4,8 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 // A static library's resources are linked in only if somebody names them; the macro wants no namespace around
 // it.
 static void loadLogos() {
@@ -16,15 +18,15 @@ namespace {
 QString fileOf(Logo which) {
     switch (which) {
     case Logo::QuiverDeck:
-        return QStringLiteral(":/loghi/quiverdeck.svg");
+        return u":/loghi/quiverdeck.svg"_s;
     case Logo::Zentara:
-        return QStringLiteral(":/loghi/zentara.svg");
+        return u":/loghi/zentara.svg"_s;
     case Logo::BarraMenu:
-        return QStringLiteral(":/loghi/barra.svg");
+        return u":/loghi/barra.svg"_s;
     case Logo::Programma:
         break;
     }
-    return QStringLiteral(":/loghi/programma.svg");
+    return u":/loghi/programma.svg"_s;
 }
 } // namespace
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 struct Knot {
     QPointF at;
@@ -14,14 +16,14 @@ struct Knot {
 using Knots = std::vector<Knot>;
 
 [[noreturn]] void fail(int line, const QString& what) {
-    throw std::runtime_error(QStringLiteral("line %1: %2").arg(line).arg(what).toStdString());
+    throw std::runtime_error(u"line %1: %2"_s.arg(line).arg(what).toStdString());
 }
 
 double number(const QString& text, int line) {
     bool valid = false;
     const double value = text.toDouble(&valid);
     if (!valid)
-        fail(line, QStringLiteral("\"%1\" is no number").arg(text));
+        fail(line, u"\"%1\" is no number"_s.arg(text));
     return value;
 }
 
@@ -34,11 +36,11 @@ Knots knots(const QString& text, int line) {
             point.chop(1);
         const QStringList both = point.split(QLatin1Char(','));
         if (both.size() != 2)
-            fail(line, QStringLiteral("\"%1\" is no point").arg(point));
+            fail(line, u"\"%1\" is no point"_s.arg(point));
         result.push_back({QPointF(number(both.at(0), line), number(both.at(1), line)), corner});
     }
     if (result.size() < 2)
-        fail(line, QStringLiteral("too few points"));
+        fail(line, u"too few points"_s);
     return result;
 }
 
@@ -52,10 +54,9 @@ Knots mirrored(const Knots& source) {
 /// The outline of a half, closed by its mirror image; points on the axis stand once.
 Knots completed(const Knots& half) {
     Knots result = half;
-    for (const Knot& knot : mirrored(half)) {
+    for (const Knot& knot : mirrored(half))
         if (knot.at.x() != 0)
             result.push_back(knot);
-    }
     return result;
 }
 
@@ -87,7 +88,7 @@ BodyShape::Kind kindOf(const QString& word, int line) {
         return BodyShape::Kind::Relief;
     if (word == QLatin1String("solco"))
         return BodyShape::Kind::Groove;
-    fail(line, QStringLiteral("\"%1\" is no kind of shape").arg(word));
+    fail(line, u"\"%1\" is no kind of shape"_s.arg(word));
 }
 } // namespace
 
@@ -105,7 +106,7 @@ void BodyPlan::addLine(const QString& line, int number_) {
         return;
     }
     if (layers_.empty() || colon < 0)
-        fail(number_, QStringLiteral("a shape belongs to a body and has points"));
+        fail(number_, u"a shape belongs to a body and has points"_s);
     BodyShape shape;
     shape.kind = kindOf(word, number_);
     if (shape.kind == BodyShape::Kind::Muscle)
@@ -128,14 +129,14 @@ void BodyPlan::addLine(const QString& line, int number_) {
     } else if (form == QLatin1String("intera")) {
         add(points);
     } else {
-        fail(number_, QStringLiteral("intera, coppia or mezza, not \"%1\"").arg(form));
+        fail(number_, u"intera, coppia or mezza, not \"%1\""_s.arg(form));
     }
 }
 
 BodyPlan BodyPlan::read(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error(QStringLiteral("%1 cannot be read").arg(path).toStdString());
+        throw std::runtime_error(u"%1 cannot be read"_s.arg(path).toStdString());
     BodyPlan plan;
     QString whole;
     int number = 0;

@@ -59,10 +59,9 @@ Field silhouetteOf(const BodyLayer& layer, const QTransform& toPixels, int margi
     }
     Field result(area);
     for (const Field& part : parts) {
-        for (int y = part.area().top(); y <= part.area().bottom(); ++y) {
+        for (int y = part.area().top(); y <= part.area().bottom(); ++y)
             for (int x = part.area().left(); x <= part.area().right(); ++x)
                 result.at(x, y) = std::max(result.value(x, y), part.value(x, y));
-        }
     }
     return result;
 }
@@ -132,10 +131,9 @@ void BodyRelief::addLayer(const BodyLayer& layer) {
 void BodyRelief::hideMarks(const Field& silhouette) {
     const QRect area = silhouette.area() & body_.area();
     for (auto& [code, marked] : marks_) {
-        for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int y = area.top(); y <= area.bottom(); ++y)
             for (int x = area.left(); x <= area.right(); ++x)
                 marked.at(x, y) *= 1 - silhouette.value(x, y);
-        }
     }
 }
 

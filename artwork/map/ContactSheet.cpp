@@ -6,6 +6,8 @@
 
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int columns = 4;
 constexpr int caption = 30;
@@ -14,10 +16,9 @@ void drawAreas(QPainter& painter, const QString& code, double pixelsPerTwip) {
     painter.save();
     painter.scale(pixelsPerTwip, pixelsPerTwip);
     painter.setPen(QPen(QColor(40, 90, 200), 5));
-    for (const AreaCorpo& area : areeCorpo()) {
+    for (const AreaCorpo& area : areeCorpo())
         if (code.isEmpty() || code == QLatin1String(area.codice))
             painter.drawRect(area.left, area.top, area.width, area.height);
-    }
     painter.restore();
 }
 } // namespace
@@ -32,7 +33,7 @@ QImage contactSheet(const BodyRelief& relief) {
     sheet.fill(Qt::white);
     QPainter painter(&sheet);
     painter.setRenderHint(QPainter::Antialiasing);
-    QFont font(QStringLiteral("DejaVu Sans"));
+    QFont font(u"DejaVu Sans"_s);
     font.setPixelSize(caption - 8);
     painter.setFont(font);
     for (int i = 0; i < codes.size(); ++i) {

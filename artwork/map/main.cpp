@@ -16,13 +16,15 @@
 #include <exception>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int quality = 92;
 const QSize pictureSize(748, 796); // four times the control's pixels: stays sharp on fine screens
 
 void save(const QImage& image, const QString& path) {
     if (!image.save(path, "JPG", quality))
-        throw std::runtime_error(QStringLiteral("%1 cannot be written").arg(path).toStdString());
+        throw std::runtime_error(u"%1 cannot be written"_s.arg(path).toStdString());
 }
 
 void draw(const QStringList& arguments) {
@@ -33,11 +35,11 @@ void draw(const QStringList& arguments) {
         return;
     }
     const QDir folder(arguments.at(2));
-    folder.mkpath(QStringLiteral("."));
-    save(relief.picture({}), folder.filePath(QStringLiteral("corpo.JPG")));
+    folder.mkpath(u"."_s);
+    save(relief.picture({}), folder.filePath(u"corpo.JPG"_s));
     for (const char* code : codiciMuscoli()) {
         const QString name = QString::fromLatin1(code);
-        save(relief.picture(name), folder.filePath(QStringLiteral("Corpo_%1.JPG").arg(name)));
+        save(relief.picture(name), folder.filePath(u"Corpo_%1.JPG"_s.arg(name)));
     }
 }
 } // namespace

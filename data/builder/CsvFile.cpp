@@ -5,11 +5,13 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace catalogue {
 
 namespace {
 QString placeOf(const QString& path, qsizetype line) {
-    return QStringLiteral("%1:%2").arg(QFileInfo(path).fileName()).arg(line + 1);
+    return u"%1:%2"_s.arg(QFileInfo(path).fileName()).arg(line + 1);
 }
 } // namespace
 
@@ -19,7 +21,7 @@ CsvRow::CsvRow(const QStringList* header, QStringList fields, QString place)
 QString CsvRow::text(const QString& column) const {
     const qsizetype at = header_->indexOf(column);
     if (at < 0)
-        throw Error(QStringLiteral("%1: there is no column %2").arg(place_, column));
+        throw Error(u"%1: there is no column %2"_s.arg(place_, column));
     return fields_.at(at);
 }
 
@@ -28,8 +30,7 @@ int CsvRow::number(const QString& column, int low, int high) const {
     bool whole = false;
     const int result = value.toInt(&whole);
     if (!whole || result < low || result > high)
-        throw Error(QStringLiteral("%1: %2 is \"%3\", not a whole number from %4 to %5")
-                        .arg(place_, column, value)
+        throw Error(u"%1: %2 is \"%3\", not a whole number from %4 to %5"_s.arg(place_, column, value)
                         .arg(low)
                         .arg(high));
     return result;
@@ -40,25 +41,23 @@ double CsvRow::real(const QString& column) const {
     bool valid = false;
     const double result = value.toDouble(&valid);
     if (!valid)
-        throw Error(QStringLiteral("%1: %2 is \"%3\", not a number").arg(place_, column, value));
+        throw Error(u"%1: %2 is \"%3\", not a number"_s.arg(place_, column, value));
     return result;
 }
 
 QString readText(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw Error(QStringLiteral("%1: %2").arg(path, file.errorString()));
+        throw Error(u"%1: %2"_s.arg(path, file.errorString()));
     QString all = QString::fromUtf8(file.readAll());
     return all.remove(QLatin1Char('\r'));
 }
 
 QStringList readLines(const QString& path) {
     QStringList lines = readText(path).split(QLatin1Char('\n'));
-    for (qsizetype i = 0; i < lines.size(); ++i) {
+    for (qsizetype i = 0; i < lines.size(); ++i)
         if (!lines.at(i).startsWith(QLatin1Char('#')) && lines.at(i).contains(QLatin1Char('\'')))
-            throw Error(
-                QStringLiteral("%1: a straight apostrophe; write the typographic one").arg(placeOf(path, i)));
-    }
+            throw Error(u"%1: a straight apostrophe; write the typographic one"_s.arg(placeOf(path, i)));
     return lines;
 }
 
@@ -82,7 +81,7 @@ QStringList splitCsvLine(const QString& line, const QString& place) {
         }
     }
     if (quoted)
-        throw Error(QStringLiteral("%1: a quotation mark is not closed").arg(place));
+        throw Error(u"%1: a quotation mark is not closed"_s.arg(place));
     fields += field;
     return fields;
 }
@@ -100,14 +99,12 @@ CsvFile::CsvFile(const QString& path) {
             continue;
         }
         if (fields.size() != header_.size())
-            throw Error(QStringLiteral("%1: %2 fields where the header has %3")
-                            .arg(place)
-                            .arg(fields.size())
-                            .arg(header_.size()));
+            throw Error(
+                u"%1: %2 fields where the header has %3"_s.arg(place).arg(fields.size()).arg(header_.size()));
         rows_.emplace_back(&header_, std::move(fields), place);
     }
     if (header_.isEmpty())
-        throw Error(QStringLiteral("%1: no header").arg(path));
+        throw Error(u"%1: no header"_s.arg(path));
 }
 
 } // namespace catalogue

@@ -4,14 +4,16 @@
 
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace catalogue {
 
 namespace {
 constexpr int busyWaitMs = 2000;
 
 [[noreturn]] void fail(const Database& database, const QString& what) {
-    throw Error(QStringLiteral("%1: %2 (%3)")
-                    .arg(database.path(), QString::fromUtf8(sqlite3_errmsg(database.handle())), what));
+    throw Error(
+        u"%1: %2 (%3)"_s.arg(database.path(), QString::fromUtf8(sqlite3_errmsg(database.handle())), what));
 }
 } // namespace
 
@@ -30,13 +32,13 @@ Statement::Statement(Database& database, const QString& sql) : database_(&databa
 
 Statement& Statement::bind(int value) {
     if (sqlite3_bind_int(statement_.get(), ++bound_, value) != SQLITE_OK)
-        fail(*database_, QStringLiteral("bind"));
+        fail(*database_, u"bind"_s);
     return *this;
 }
 
 Statement& Statement::bind(double value) {
     if (sqlite3_bind_double(statement_.get(), ++bound_, value) != SQLITE_OK)
-        fail(*database_, QStringLiteral("bind"));
+        fail(*database_, u"bind"_s);
     return *this;
 }
 
@@ -45,7 +47,7 @@ Statement& Statement::bind(const QString& value) {
     // SQLITE_TRANSIENT: SQLite copies the text, ours goes out of scope.
     if (sqlite3_bind_text(statement_.get(), ++bound_, utf8.constData(), static_cast<int>(utf8.size()),
                           SQLITE_TRANSIENT) != SQLITE_OK)
-        fail(*database_, QStringLiteral("bind"));
+        fail(*database_, u"bind"_s);
     return *this;
 }
 
@@ -82,7 +84,7 @@ Database::Database(const QString& path, Mode mode) : path_(path) {
     const int code = sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr);
     handle_.reset(handle);
     if (code != SQLITE_OK)
-        fail(*this, QStringLiteral("open"));
+        fail(*this, u"open"_s);
     sqlite3_busy_timeout(handle, busyWaitMs);
 }
 
@@ -103,10 +105,10 @@ int Database::totalChanges() const {
 void Database::copyFrom(Database& source) {
     sqlite3_backup* backup = sqlite3_backup_init(handle(), "main", source.handle(), "main");
     if (backup == nullptr)
-        fail(*this, QStringLiteral("copy"));
+        fail(*this, u"copy"_s);
     sqlite3_backup_step(backup, -1);
     if (sqlite3_backup_finish(backup) != SQLITE_OK)
-        fail(*this, QStringLiteral("copy from %1").arg(source.path()));
+        fail(*this, u"copy from %1"_s.arg(source.path()));
 }
 
 } // namespace catalogue

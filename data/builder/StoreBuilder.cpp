@@ -11,6 +11,8 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace catalogue {
 
 namespace {
@@ -37,12 +39,12 @@ private:
 
     void categories() {
         const CsvFile source(file("categorie.csv"));
-        Statement insert(database_, QStringLiteral("INSERT INTO categorie (id_cat, nome) VALUES (?, ?)"));
+        Statement insert(database_, u"INSERT INTO categorie (id_cat, nome) VALUES (?, ?)"_s);
         for (const CsvRow& row : source.rows()) {
-            const QString name = row.text(QStringLiteral("nome"));
+            const QString name = row.text(u"nome"_s);
             if (name.isEmpty() || !name.front().isUpper())
-                throw Error(QStringLiteral("%1: a category begins with a capital").arg(row.place()));
-            const int key = row.number(QStringLiteral("id_cat"), 1, greatestKey);
+                throw Error(u"%1: a category begins with a capital"_s.arg(row.place()));
+            const int key = row.number(u"id_cat"_s, 1, greatestKey);
             insert.bind(key).bind(name).run();
             categories_.insert(name, key);
         }
@@ -50,16 +52,14 @@ private:
 
     void muscles() {
         const CsvFile source(file("muscoli.csv"));
-        Statement insert(
-            database_,
-            QStringLiteral("INSERT INTO muscoli (id_muscolo, nome, nomeMuscolo) VALUES (?, ?, ?)"));
+        Statement insert(database_,
+                         u"INSERT INTO muscoli (id_muscolo, nome, nomeMuscolo) VALUES (?, ?, ?)"_s);
         for (const CsvRow& row : source.rows()) {
-            const QString code = row.text(QStringLiteral("id_muscolo"));
-            const QString name = row.text(QStringLiteral("nome"));
-            const QString muscle = row.text(QStringLiteral("nomeMuscolo"));
+            const QString code = row.text(u"id_muscolo"_s);
+            const QString name = row.text(u"nome"_s);
+            const QString muscle = row.text(u"nomeMuscolo"_s);
             if (code.isEmpty() || code.size() > greatestMuscleCode || name.isEmpty() || muscle.isEmpty())
-                throw Error(
-                    QStringLiteral("%1: a code of at most 3 characters and two names").arg(row.place()));
+                throw Error(u"%1: a code of at most 3 characters and two names"_s.arg(row.place()));
             insert.bind(code).bind(name).bind(muscle).run();
             muscles_ += code;
         }
@@ -67,42 +67,33 @@ private:
 
     void machines() {
         const CsvFile source(file("macchinari.csv"));
-        Statement insert(database_,
-                         QStringLiteral("INSERT INTO Macchinari (ID_MAC, Caricata) VALUES (?, ?)"));
+        Statement insert(database_, u"INSERT INTO Macchinari (ID_MAC, Caricata) VALUES (?, ?)"_s);
         for (const CsvRow& row : source.rows()) {
-            const QString code = row.text(QStringLiteral("ID_MAC"));
-            insert.bind(code).bind(row.number(QStringLiteral("Caricata"), 0, 1)).run();
+            const QString code = row.text(u"ID_MAC"_s);
+            insert.bind(code).bind(row.number(u"Caricata"_s, 0, 1)).run();
             machines_ += code;
         }
     }
 
     void figures() {
         const CsvFile source(file("figure.csv"));
-        Statement insert(
-            database_,
-            QStringLiteral("INSERT INTO figure (id_fig, ID_MAC, numero, figura) VALUES (?, ?, ?, ?)"));
-        Statement link(database_,
-                       QStringLiteral("INSERT INTO figure_muscoli (id_fig, id_muscolo) VALUES (?, ?)"));
-        static const QRegularExpression separator(QStringLiteral("[ ,|]+"));
+        Statement insert(database_,
+                         u"INSERT INTO figure (id_fig, ID_MAC, numero, figura) VALUES (?, ?, ?, ?)"_s);
+        Statement link(database_, u"INSERT INTO figure_muscoli (id_fig, id_muscolo) VALUES (?, ?)"_s);
+        static const QRegularExpression separator(u"[ ,|]+"_s);
         for (const CsvRow& row : source.rows()) {
-            const int key = row.number(QStringLiteral("id_fig"), 1, greatestKey);
-            const QString code = row.text(QStringLiteral("codice"));
-            const QString machine = row.text(QStringLiteral("ID_MAC"));
+            const int key = row.number(u"id_fig"_s, 1, greatestKey);
+            const QString code = row.text(u"codice"_s);
+            const QString machine = row.text(u"ID_MAC"_s);
             if (!machines_.contains(machine))
-                throw Error(QStringLiteral("%1: no machine %2").arg(row.place(), machine));
-            insert.bind(key)
-                .bind(machine)
-                .bind(row.real(QStringLiteral("numero")))
-                .bind(storedPicture(code))
-                .run();
-            const QStringList groups =
-                row.text(QStringLiteral("muscoli")).split(separator, Qt::SkipEmptyParts);
+                throw Error(u"%1: no machine %2"_s.arg(row.place(), machine));
+            insert.bind(key).bind(machine).bind(row.real(u"numero"_s)).bind(storedPicture(code)).run();
+            const QStringList groups = row.text(u"muscoli"_s).split(separator, Qt::SkipEmptyParts);
             if (groups.isEmpty())
-                throw Error(
-                    QStringLiteral("%1: a figure without a muscle group is never listed").arg(row.place()));
+                throw Error(u"%1: a figure without a muscle group is never listed"_s.arg(row.place()));
             for (const QString& group : groups) {
                 if (!muscles_.contains(group))
-                    throw Error(QStringLiteral("%1: no muscle group %2").arg(row.place(), group));
+                    throw Error(u"%1: no muscle group %2"_s.arg(row.place(), group));
                 link.bind(key).bind(group).run();
             }
             figures_.insert(code, {key, machine});
@@ -111,26 +102,24 @@ private:
 
     void gym() {
         const CsvFile source(file("palestra.csv"));
-        Statement insert(database_,
-                         QStringLiteral("INSERT INTO palestra (nome, responsabile, logo) VALUES (?, ?, ?)"));
+        Statement insert(database_, u"INSERT INTO palestra (nome, responsabile, logo) VALUES (?, ?, ?)"_s);
         for (const CsvRow& row : source.rows())
-            insert.bind(row.text(QStringLiteral("nome")))
-                .bind(row.text(QStringLiteral("responsabile")))
-                .bind(row.text(QStringLiteral("logo")))
+            insert.bind(row.text(u"nome"_s))
+                .bind(row.text(u"responsabile"_s))
+                .bind(row.text(u"logo"_s))
                 .run();
     }
 
     void parameters() {
         const CsvFile source(file("parametri.csv"));
-        Statement insert(database_,
-                         QStringLiteral("INSERT INTO Parametri (parametro, valore) VALUES (?, ?)"));
+        Statement insert(database_, u"INSERT INTO Parametri (parametro, valore) VALUES (?, ?)"_s);
         for (const CsvRow& row : source.rows())
-            insert.bind(row.text(QStringLiteral("parametro"))).bind(row.text(QStringLiteral("valore"))).run();
+            insert.bind(row.text(u"parametro"_s)).bind(row.text(u"valore"_s)).run();
     }
 
     void templates() {
-        const QDir folder(folder_ + QStringLiteral("/modelli"));
-        const QStringList names = folder.entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name);
+        const QDir folder(folder_ + u"/modelli"_s);
+        const QStringList names = folder.entryList({u"*.csv"_s}, QDir::Files, QDir::Name);
         int key = 0;
         for (const QString& name : names)
             addTemplate(TemplateFile(folder.filePath(name)), name, ++key);
@@ -138,24 +127,21 @@ private:
 
     void addTemplate(const TemplateFile& source, const QString& name, int key) {
         if (!categories_.contains(source.categoria))
-            throw Error(QStringLiteral("%1: no category \"%2\"").arg(name, source.categoria));
+            throw Error(u"%1: no category \"%2\""_s.arg(name, source.categoria));
         if (names_.contains(source.descrizione))
-            throw Error(
-                QStringLiteral("%1: there is a template \"%2\" already").arg(name, source.descrizione));
+            throw Error(u"%1: there is a template \"%2\" already"_s.arg(name, source.descrizione));
         names_ += source.descrizione;
-        Statement(database_,
-                  QStringLiteral("INSERT INTO schedeModello (id_Scheda, id_cat, descrizione, preimpostata, "
-                                 "note) VALUES (?, ?, ?, 1, ?)"))
+        Statement(database_, u"INSERT INTO schedeModello (id_Scheda, id_cat, descrizione, preimpostata, "
+                             "note) VALUES (?, ?, ?, 1, ?)"_s)
             .bind(key)
             .bind(categories_.value(source.categoria))
             .bind(source.descrizione)
             .bind(source.note)
             .run();
-        Statement insert(
-            database_,
-            QStringLiteral("INSERT INTO EserciziModello (NProg, ID_Scheda, ID_Fig, Durata, Frequenza, "
-                           "Ampiezza, RecuperoMin, RecuperoSec, Serie, Modalita, Peso, isLibero, Note) "
-                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"));
+        Statement insert(database_,
+                         u"INSERT INTO EserciziModello (NProg, ID_Scheda, ID_Fig, Durata, Frequenza, "
+                         "Ampiezza, RecuperoMin, RecuperoSec, Serie, Modalita, Peso, isLibero, Note) "
+                         "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"_s);
         int place = 0;
         for (const TemplateLine& line : source.lines) {
             insert.bind(++place).bind(key).bind(figureOf(line)).bind(line.durata).bind(line.frequenza);
@@ -170,7 +156,7 @@ private:
         const auto found = figures_.constFind(line.figure);
         // The figures of the other machine are listed in no window, so no template may hold one.
         if (found == figures_.constEnd() || found->machine != QLatin1String("QUIVR"))
-            throw Error(QStringLiteral("%1: no figure \"%2\" of QUIVR").arg(line.place, line.figure));
+            throw Error(u"%1: no figure \"%2\" of QUIVR"_s.arg(line.place, line.figure));
         return found->key;
     }
 
@@ -187,7 +173,7 @@ private:
 } // namespace
 
 QString storedPicture(const QString& code) {
-    return QStringLiteral("images\\figure\\%1.JPG").arg(code);
+    return u"images\\figure\\%1.JPG"_s.arg(code);
 }
 
 void buildStore(const Sources& sources, const QString& target) {
@@ -195,10 +181,10 @@ void buildStore(const Sources& sources, const QString& target) {
     {
         Database database(file.path(), Database::Mode::Create);
         // Half a file is thrown away anyhow, so nothing waits for the disk.
-        database.execute(QStringLiteral("PRAGMA synchronous = OFF; BEGIN"));
-        database.execute(readText(sources.folder + QStringLiteral("/schema.sql")));
+        database.execute(u"PRAGMA synchronous = OFF; BEGIN"_s);
+        database.execute(readText(sources.folder + u"/schema.sql"_s));
         Filler(database, sources.folder).fill();
-        database.execute(QStringLiteral("COMMIT"));
+        database.execute(u"COMMIT"_s);
     }
     file.finish();
 }

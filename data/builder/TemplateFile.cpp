@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace catalogue {
 
 namespace {
@@ -12,13 +14,11 @@ constexpr int greatestSeconds = 59;
 constexpr int greatestSeries = 99;
 constexpr int fieldCount = 9;
 
-const QString csvHeader =
-    QStringLiteral("figura;durata;frequenza;ampiezza;recupero;serie;modalita;peso;note");
+const QString csvHeader = u"figura;durata;frequenza;ampiezza;recupero;serie;modalita;peso;note"_s;
 
 QString oneOf(const QStringList& list, const QString& value, const QString& place) {
     if (!list.contains(value))
-        throw Error(
-            QStringLiteral("%1: \"%2\" is none of %3").arg(place, value, list.join(QStringLiteral(", "))));
+        throw Error(u"%1: \"%2\" is none of %3"_s.arg(place, value, list.join(u", "_s)));
     return value;
 }
 
@@ -26,16 +26,14 @@ int within(const QString& value, int greatest, const QString& what, const QStrin
     bool whole = false;
     const int number = value.toInt(&whole);
     if (!whole || number < 0 || number > greatest)
-        throw Error(QStringLiteral("%1: %2 is \"%3\", not a whole number up to %4")
-                        .arg(place, what, value)
-                        .arg(greatest));
+        throw Error(u"%1: %2 is \"%3\", not a whole number up to %4"_s.arg(place, what, value).arg(greatest));
     return number;
 }
 
 TemplateLine readLine(const QString& text, const QString& place) {
     const QStringList fields = splitCsvLine(text, place);
     if (fields.size() != fieldCount)
-        throw Error(QStringLiteral("%1: %2 fields, not %3").arg(place).arg(fields.size()).arg(fieldCount));
+        throw Error(u"%1: %2 fields, not %3"_s.arg(place).arg(fields.size()).arg(fieldCount));
     TemplateLine line;
     line.place = place;
     line.figure = fields.at(0);
@@ -43,7 +41,7 @@ TemplateLine readLine(const QString& text, const QString& place) {
     line.isLibero = line.figure.isEmpty();
     if (line.isLibero) {
         if (line.note.isEmpty())
-            throw Error(QStringLiteral("%1: a free line without a text").arg(place));
+            throw Error(u"%1: a free line without a text"_s.arg(place));
         // The hidden fields hold what the editor leaves in an untouched row.
         line.durata = durate().front();
         line.frequenza = frequenze().front();
@@ -56,11 +54,10 @@ TemplateLine readLine(const QString& text, const QString& place) {
     line.ampiezza = oneOf(ampiezze(), fields.at(3), place);
     const QStringList recovery = fields.at(4).split(QLatin1Char(':'));
     if (recovery.size() != 2)
-        throw Error(
-            QStringLiteral("%1: the recovery is \"%2\", not minutes:seconds").arg(place, fields.at(4)));
-    line.recuperoMin = within(recovery.at(0), greatestMinutes, QStringLiteral("minutes"), place);
-    line.recuperoSec = within(recovery.at(1), greatestSeconds, QStringLiteral("seconds"), place);
-    line.serie = within(fields.at(5), greatestSeries, QStringLiteral("serie"), place);
+        throw Error(u"%1: the recovery is \"%2\", not minutes:seconds"_s.arg(place, fields.at(4)));
+    line.recuperoMin = within(recovery.at(0), greatestMinutes, u"minutes"_s, place);
+    line.recuperoSec = within(recovery.at(1), greatestSeconds, u"seconds"_s, place);
+    line.serie = within(fields.at(5), greatestSeries, u"serie"_s, place);
     line.modalita = oneOf(modi(), fields.at(6), place);
     line.peso = fields.at(7);
     return line;
@@ -68,26 +65,24 @@ TemplateLine readLine(const QString& text, const QString& place) {
 } // namespace
 
 const QStringList& durate() {
-    static const QStringList list{QStringLiteral("30s"), QStringLiteral("45s"), QStringLiteral("60s")};
+    static const QStringList list{u"30s"_s, u"45s"_s, u"60s"_s};
     return list;
 }
 
 const QStringList& frequenze() {
-    static const QStringList list{QStringLiteral("30Hz"), QStringLiteral("35Hz"), QStringLiteral("40Hz"),
-                                  QStringLiteral("50Hz")};
+    static const QStringList list{u"30Hz"_s, u"35Hz"_s, u"40Hz"_s, u"50Hz"_s};
     return list;
 }
 
 const QStringList& ampiezze() {
-    static const QStringList list{QStringLiteral("L"), QStringLiteral("H")};
+    static const QStringList list{u"L"_s, u"H"_s};
     return list;
 }
 
 const QStringList& modi() {
-    static const QStringList list{
-        QStringLiteral("Statico a carico naturale"), QStringLiteral("Statico a carico aggiuntivo"),
-        QStringLiteral("Dinamico a carico naturale"), QStringLiteral("Dinamico a carico aggiuntivo"),
-        QStringLiteral("Combinata")};
+    static const QStringList list{u"Statico a carico naturale"_s, u"Statico a carico aggiuntivo"_s,
+                                  u"Dinamico a carico naturale"_s, u"Dinamico a carico aggiuntivo"_s,
+                                  u"Combinata"_s};
     return list;
 }
 
@@ -97,7 +92,7 @@ TemplateFile::TemplateFile(const QString& path) {
     const QStringList all = readLines(path);
     for (qsizetype i = 0; i < all.size(); ++i) {
         const QString text = all.at(i).trimmed();
-        const QString place = QStringLiteral("%1:%2").arg(file).arg(i + 1);
+        const QString place = u"%1:%2"_s.arg(file).arg(i + 1);
         if (text.isEmpty() || text.startsWith(QLatin1Char('#')))
             continue;
         if (text == csvHeader) {
@@ -115,11 +110,11 @@ TemplateFile::TemplateFile(const QString& path) {
             else if (name == QLatin1String("note"))
                 note = value;
             else
-                throw Error(QStringLiteral("%1: \"%2\" is no name of a head line").arg(place, name));
+                throw Error(u"%1: \"%2\" is no name of a head line"_s.arg(place, name));
         }
     }
     if (categoria.isEmpty() || descrizione.isEmpty() || lines.empty())
-        throw Error(QStringLiteral("%1: category, description and exercises are needed").arg(file));
+        throw Error(u"%1: category, description and exercises are needed"_s.arg(file));
 }
 
 } // namespace catalogue

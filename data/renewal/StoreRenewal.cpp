@@ -7,16 +7,15 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace catalogue {
 
 namespace {
 void checkSchema(Database& fresh, Database& inUse) {
-    const auto version = [](Database& database) {
-        return database.scalar(QStringLiteral("PRAGMA user_version"));
-    };
+    const auto version = [](Database& database) { return database.scalar(u"PRAGMA user_version"_s); };
     if (version(fresh) == 0 || version(fresh) != version(inUse))
-        throw Error(QStringLiteral("%1 has schema %2, the catalogue has %3")
-                        .arg(inUse.path())
+        throw Error(u"%1 has schema %2, the catalogue has %3"_s.arg(inUse.path())
                         .arg(version(inUse))
                         .arg(version(fresh)));
 }
@@ -53,8 +52,7 @@ INSERT INTO main.categorie (id_cat, nome)
 
 void addTemplates(Database& store) {
     // Automatic keys go on from the highest ever handed out, so whatever lies above it is new.
-    const int before =
-        store.scalar(QStringLiteral("SELECT seq FROM main.sqlite_sequence WHERE name = 'schedeModello'"));
+    const int before = store.scalar(u"SELECT seq FROM main.sqlite_sequence WHERE name = 'schedeModello'"_s);
     store.execute(QStringLiteral(R"(
 INSERT INTO main.schedeModello (id_cat, descrizione, preimpostata, note)
     SELECT n.id_cat, n.descrizione, 1, n.note FROM nuovo.schedeModello n
@@ -79,17 +77,17 @@ INSERT INTO main.EserciziModello (NProg, ID_Scheda, ID_Fig, Durata, Frequenza, A
 
 /// Renews the copy; true if a row changed.
 bool renewCopy(Database& copy, const QString& fresh) {
-    Statement(copy, QStringLiteral("ATTACH ? AS nuovo")).bind(fresh).run();
+    Statement(copy, u"ATTACH ? AS nuovo"_s).bind(fresh).run();
     const int before = copy.totalChanges();
-    copy.execute(QStringLiteral("BEGIN"));
+    copy.execute(u"BEGIN"_s);
     renewTables(copy);
     addTemplates(copy);
-    copy.execute(QStringLiteral("COMMIT"));
+    copy.execute(u"COMMIT"_s);
     const bool changed = copy.totalChanges() != before;
-    copy.execute(QStringLiteral("DETACH nuovo"));
-    Statement check(copy, QStringLiteral("PRAGMA quick_check(1)"));
+    copy.execute(u"DETACH nuovo"_s);
+    Statement check(copy, u"PRAGMA quick_check(1)"_s);
     if (!check.next() || check.text(0) != QLatin1String("ok"))
-        throw Error(QStringLiteral("%1 is damaged").arg(copy.path()));
+        throw Error(u"%1 is damaged"_s.arg(copy.path()));
     return changed;
 }
 } // namespace
@@ -97,12 +95,12 @@ bool renewCopy(Database& copy, const QString& fresh) {
 bool renewStore(const QString& fresh, const QString& inUse) {
     const QString real = QFileInfo(inUse).canonicalFilePath(); // a link stays a link
     if (real.isEmpty())
-        throw Error(QStringLiteral("%1 does not exist").arg(inUse));
+        throw Error(u"%1 does not exist"_s.arg(inUse));
     UnfinishedFile copy(real);
     // Undoes what a crash left half written, and keeps writers out until the copy has taken the name. Readers
     // may go on, and the copy is read through a connection of its own: one that writes cannot be copied from.
     Database guard(real, Database::Mode::Existing);
-    guard.execute(QStringLiteral("BEGIN IMMEDIATE"));
+    guard.execute(u"BEGIN IMMEDIATE"_s);
     Database source(real, Database::Mode::ReadOnly);
     bool changed = false;
     {

@@ -16,6 +16,8 @@
 #include <cmath>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // All lengths are pixels at 96 dots an inch, which is what the text's own sizes mean; the painter makes them
@@ -45,43 +47,39 @@ const QString styleSheet = QStringLiteral(R"(
 )");
 
 QString contents(const Guida& guide, const PageNumbers& numbers) {
-    QString html = QStringLiteral("<h1>Indice</h1><table width=\"100%\" cellpadding=\"2\">");
+    QString html = u"<h1>Indice</h1><table width=\"100%\" cellpadding=\"2\">"_s;
     for (const Capitolo& chapter : guide.capitoli) {
-        html += QStringLiteral("<tr><td colspan=\"2\" class=\"voce\">%1</td></tr>")
-                    .arg(chapter.titolo.toHtmlEscaped());
+        html += u"<tr><td colspan=\"2\" class=\"voce\">%1</td></tr>"_s.arg(chapter.titolo.toHtmlEscaped());
         for (const Pagina& page : chapter.pagine) {
-            html +=
-                QStringLiteral("<tr><td style=\"padding-left:18px\">%1</td><td align=\"right\">%2</td></tr>")
-                    .arg(page.titolo.toHtmlEscaped())
-                    .arg(numbers.value(page.id));
+            html += u"<tr><td style=\"padding-left:18px\">%1</td><td align=\"right\">%2</td></tr>"_s
+                        .arg(page.titolo.toHtmlEscaped())
+                        .arg(numbers.value(page.id));
         }
-        html += QStringLiteral("<tr><td style=\"font-size:5pt\">&nbsp;</td></tr>");
+        html += u"<tr><td style=\"font-size:5pt\">&nbsp;</td></tr>"_s;
     }
-    return html + QStringLiteral("</table>");
+    return html + u"</table>"_s;
 }
 
 QString manualHtml(const Guida& guide, const QString& screens, const PageNumbers& numbers) {
-    const ComeHtml how{
-        screens, widestPicture, [&numbers](const QString& id, const QString& text) {
-            return QStringLiteral("%1 (pag. %2)").arg(text.toHtmlEscaped()).arg(numbers.value(id));
-        }};
-    QString html = QStringLiteral("<html><body>") + contents(guide, numbers);
+    const ComeHtml how{screens, widestPicture, [&numbers](const QString& id, const QString& text) {
+                           return u"%1 (pag. %2)"_s.arg(text.toHtmlEscaped()).arg(numbers.value(id));
+                       }};
+    QString html = u"<html><body>"_s + contents(guide, numbers);
     for (const Capitolo& chapter : guide.capitoli) {
         bool first = true;
         for (const Pagina& page : chapter.pagine) {
             // A chapter begins on a new page; its pages follow each other.
             if (first) {
-                html += QStringLiteral("<p class=\"capitolo\" style=\"page-break-before:always\">%1</p>")
-                            .arg(chapter.titolo.toHtmlEscaped());
+                html += u"<p class=\"capitolo\" style=\"page-break-before:always\">%1</p>"_s.arg(
+                    chapter.titolo.toHtmlEscaped());
             }
-            html += QStringLiteral("<h1 style=\"margin-top:%1px\"><a name=\"%2\">%3</a></h1>")
-                        .arg(first ? 0 : 34)
+            html += u"<h1 style=\"margin-top:%1px\"><a name=\"%2\">%3</a></h1>"_s.arg(first ? 0 : 34)
                         .arg(page.id, page.titolo.toHtmlEscaped());
             html += paginaHtml(page.testo, how);
             first = false;
         }
     }
-    return html + QStringLiteral("</body></html>");
+    return html + u"</body></html>"_s;
 }
 
 /// Where each page of the guide stands, the title page counted as the first.
@@ -111,9 +109,8 @@ QTextBlock loneHeading(const QTextDocument& document) {
             const double firstLine =
                 layout.blockBoundingRect(block).top() + block.layout()->lineAt(0).rect().bottom();
             if (run.isValid() && static_cast<int>(firstLine / height) !=
-                                     static_cast<int>(layout.blockBoundingRect(run).top() / height)) {
+                                     static_cast<int>(layout.blockBoundingRect(run).top() / height))
                 return run;
-            }
             run = QTextBlock();
         }
     }
@@ -125,9 +122,8 @@ void keepHeadings(QTextDocument& document) {
     const QSizeF page = document.pageSize();
     for (QTextBlock lone = loneHeading(document); lone.isValid(); lone = loneHeading(document)) {
         QTextBlockFormat format = lone.blockFormat();
-        if (format.pageBreakPolicy() == QTextFormat::PageBreak_AlwaysBefore) {
+        if (format.pageBreakPolicy() == QTextFormat::PageBreak_AlwaysBefore)
             return; // a picture higher than what is left of the page
-        }
         format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
         QTextCursor(lone).setBlockFormat(format);
         document.setPageSize({page.width(), page.height() + 1}); // laid out anew as a whole
@@ -136,7 +132,7 @@ void keepHeadings(QTextDocument& document) {
 }
 
 QFont sans(double points, bool bold) {
-    QFont font(QStringLiteral("Liberation Sans"));
+    QFont font(u"Liberation Sans"_s);
     font.setPixelSize(static_cast<int>(std::lround(points * 96 / 72)));
     font.setBold(bold);
     return font;
@@ -150,14 +146,14 @@ void titlePage(QPainter& painter, const QSizeF& page, const QString& logo, const
     painter.setPen(QColor(0x1f, 0x4e, 0x79));
     painter.setFont(sans(30, true));
     painter.drawText(QRectF(0, page.height() * 0.44, page.width(), 20 * millimetre), Qt::AlignHCenter,
-                     QStringLiteral("Manuale d’uso"));
+                     u"Manuale d’uso"_s);
     painter.setPen(Qt::black);
     painter.setFont(sans(13, false));
     painter.drawText(QRectF(0, page.height() * 0.52, page.width(), 10 * millimetre), Qt::AlignHCenter,
-                     QStringLiteral("Schede di allenamento per la pedana vibrante"));
+                     u"Schede di allenamento per la pedana vibrante"_s);
     painter.setFont(sans(10, false));
     painter.drawText(QRectF(0, page.height() - 10 * millimetre, page.width(), 8 * millimetre),
-                     Qt::AlignHCenter, QStringLiteral("Versione ") + version);
+                     Qt::AlignHCenter, u"Versione "_s + version);
 }
 
 void footerLine(QPainter& painter, const QSizeF& page, int number) {
@@ -166,7 +162,7 @@ void footerLine(QPainter& painter, const QSizeF& page, int number) {
     painter.drawLine(line.topLeft(), line.topRight());
     painter.setPen(QColor(0x5a, 0x64, 0x70));
     painter.setFont(sans(8.5, false));
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignBottom, QStringLiteral("Quiver-Deck – Manuale d’uso"));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignBottom, u"Quiver-Deck – Manuale d’uso"_s);
     painter.drawText(line, Qt::AlignRight | Qt::AlignBottom, QString::number(number));
 }
 
@@ -175,22 +171,21 @@ void footerLine(QPainter& painter, const QSizeF& page, int number) {
 void scriviManuale(const Guida& guide, const QString& screens, const QString& logo, const QString& version,
                    const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        throw std::runtime_error((path + QStringLiteral(": ") + file.errorString()).toStdString());
-    }
+    if (!file.open(QIODevice::WriteOnly))
+        throw std::runtime_error((path + u": "_s + file.errorString()).toStdString());
     QPdfWriter writer(&file);
     writer.setResolution(resolution);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins({0, 0, 0, 0});
-    writer.setTitle(QStringLiteral("Quiver-Deck – Manuale d’uso"));
-    writer.setCreator(QStringLiteral("Quiver-Deck"));
+    writer.setTitle(u"Quiver-Deck – Manuale d’uso"_s);
+    writer.setCreator(u"Quiver-Deck"_s);
     const QSizeF page(writer.width() / finer - 2 * margin, writer.height() / finer - 2 * margin);
     const QSizeF text(page.width(), std::floor(page.height() - footer));
 
     QTextDocument document;
     document.setDefaultStyleSheet(styleSheet);
     document.setDocumentMargin(0);
-    QFont body(QStringLiteral("Liberation Serif"));
+    QFont body(u"Liberation Serif"_s);
     body.setPointSizeF(11);
     body.setHintingPreference(QFont::PreferNoHinting);
     document.setDefaultFont(body);

@@ -6,22 +6,18 @@
 #include "platform/runtime/Dates.h"
 #include "platform/toolkit/Twips.h"
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 UtentiNuovo::UtentiNuovo()
-    : Form(QStringLiteral("UtentiNuovo")), Label1(QStringLiteral("Label1"), QStringLiteral("Nome"), client()),
-      txtNome(QStringLiteral("txtNome"), client()),
-      Label2(QStringLiteral("Label2"), QStringLiteral("Cognome"), client()),
-      txtCognome(QStringLiteral("txtCognome"), client()),
-      Label3(QStringLiteral("Label3"), QStringLiteral("Data di Nascita"), client()),
-      txtDataNascita(QStringLiteral("txtDataNascita"), client()), Frame1(QStringLiteral("Frame1"), client()),
-      optM(QStringLiteral("optM"), QStringLiteral("M"), &Frame1),
-      optF(QStringLiteral("optF"), QStringLiteral("F"), &Frame1),
-      Label4(QStringLiteral("Label4"), QStringLiteral("Note:"), client()),
-      txtNote(QStringLiteral("txtNote"), client()),
-      CmdSave(QStringLiteral("CmdSave"), QStringLiteral("Salva"), client()),
-      cmdAnnulla(QStringLiteral("cmdAnnulla"), QStringLiteral("Annulla"), client()) {
-    setCaption(QStringLiteral("UTENTE"));
+    : Form(u"UtentiNuovo"_s), Label1(u"Label1"_s, u"Nome"_s, client()), txtNome(u"txtNome"_s, client()),
+      Label2(u"Label2"_s, u"Cognome"_s, client()), txtCognome(u"txtCognome"_s, client()),
+      Label3(u"Label3"_s, u"Data di Nascita"_s, client()), txtDataNascita(u"txtDataNascita"_s, client()),
+      Frame1(u"Frame1"_s, client()), optM(u"optM"_s, u"M"_s, &Frame1), optF(u"optF"_s, u"F"_s, &Frame1),
+      Label4(u"Label4"_s, u"Note:"_s, client()), txtNote(u"txtNote"_s, client()),
+      CmdSave(u"CmdSave"_s, u"Salva"_s, client()), cmdAnnulla(u"cmdAnnulla"_s, u"Annulla"_s, client()) {
+    setCaption(u"UTENTE"_s);
     setInnerSize(6600, 4650);
 
     // Captions in one column, fields in another, both on one grid.
@@ -45,31 +41,28 @@ UtentiNuovo::UtentiNuovo()
     txtNome.setAccessibleName(Label1.caption());
     txtCognome.setAccessibleName(Label2.caption());
     txtDataNascita.setAccessibleName(Label3.caption());
-    optM.setAccessibleName(QStringLiteral("Maschio"));
-    optF.setAccessibleName(QStringLiteral("Femmina"));
-    txtNote.setAccessibleName(QStringLiteral("Note"));
-    CmdSave.setToolTip(QStringLiteral("Salva l'utente corrente"));
-    cmdAnnulla.setToolTip(QStringLiteral("Annulla l'operazione"));
+    optM.setAccessibleName(u"Maschio"_s);
+    optF.setAccessibleName(u"Femmina"_s);
+    txtNote.setAccessibleName(u"Note"_s);
+    CmdSave.setToolTip(u"Salva l'utente corrente"_s);
+    cmdAnnulla.setToolTip(u"Annulla l'operazione"_s);
 
     connect(&CmdSave, &toolkit::Button::clicked, this, &UtentiNuovo::CmdSave_Click);
     connect(&cmdAnnulla, &toolkit::Button::clicked, this, &UtentiNuovo::cmdAnnulla_Click);
 }
 
 utente& UtentiNuovo::ut() {
-    if (!ut_) {
+    if (!ut_)
         ut_ = std::make_unique<utente>();
-    }
     return *ut_;
 }
 
 void UtentiNuovo::onActivate() {
     const qint32 chiave = runtime::toInt32(runtime::leadingNumber(Tag));
-    if (chiave == 0) {
+    if (chiave == 0)
         return;
-    }
-    if (!ut().carica(chiave)) {
+    if (!ut().carica(chiave))
         return; // told in a box; the fields stay blank
-    }
     txtNome.setText(ut().nome);
     txtCognome.setText(ut().cognome);
     txtDataNascita.setValue(ut().dataNascita);
@@ -81,19 +74,18 @@ void UtentiNuovo::onActivate() {
 void UtentiNuovo::CmdSave_Click() {
     if (txtCognome.text().isEmpty() || txtNome.text().isEmpty() ||
         runtime::dateText(txtDataNascita.value()).isEmpty()) {
-        host::message(QStringLiteral("Mancano alcuni dati essenziali!"), host::Icon::Critical);
+        host::message(u"Mancano alcuni dati essenziali!"_s, host::Icon::Critical);
         return;
     }
     ut().cognome = txtCognome.text();
     ut().nome = txtNome.text();
     ut().dataNascita = txtDataNascita.value();
     ut().note = txtNote.text();
-    ut().sesso = optM.value() ? QStringLiteral("M") : QStringLiteral("F");
+    ut().sesso = optM.value() ? u"M"_s : u"F"_s;
     ut().save();
     unload();
-    if (chiamante == QLatin1String("UtentiSelezione")) {
+    if (chiamante == QLatin1String("UtentiSelezione"))
         UtentiSelezione::comune().FillListAtleti();
-    }
 }
 
 void UtentiNuovo::cmdAnnulla_Click() {

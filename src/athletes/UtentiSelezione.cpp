@@ -11,6 +11,8 @@
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/Twips.h"
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 namespace {
@@ -20,36 +22,31 @@ constexpr int colonneRicerca = 2; // surname and first name
 } // namespace
 
 UtentiSelezione::UtentiSelezione()
-    : Form(QStringLiteral("UtentiSelezione")), Toolbar(QStringLiteral("Toolbar"), this), ImageList1({24, 24}),
-      Label1(QStringLiteral("Label1"), QStringLiteral("Ricerca per Cognome/Nome:"), client()),
-      Ricerca(QStringLiteral("Ricerca"), client()), LW(QStringLiteral("LW"), client()) {
-    setCaption(QStringLiteral("Elenco UTENTI"));
+    : Form(u"UtentiSelezione"_s), Toolbar(u"Toolbar"_s, this), ImageList1({24, 24}),
+      Label1(u"Label1"_s, u"Ricerca per Cognome/Nome:"_s, client()), Ricerca(u"Ricerca"_s, client()),
+      LW(u"LW"_s, client()) {
+    setCaption(u"Elenco UTENTI"_s);
     setInnerSize(8430, 6570);
 
     addTopBar(&Toolbar);
-    Toolbar.addButton(QStringLiteral("seleziona"), QStringLiteral("Seleziona"),
-                      QStringLiteral("Seleziona l'utente evidenziato"));
-    Toolbar.addButton(QStringLiteral("annulla"), QStringLiteral("Annulla"),
-                      QStringLiteral("Annulla ogni processo in corso ed esce dalla finestra"));
-    Toolbar.addButton(QStringLiteral("nuovo"), QStringLiteral("Nuovo"),
-                      QStringLiteral("Inserisce un nuovo utente"));
-    Toolbar.addButton(QStringLiteral("modifica"), QStringLiteral("Modifica"),
-                      QStringLiteral("Modifica i dati anagrafici dell'utente evidenziato"));
-    Toolbar.addButton(QStringLiteral("elimina"), QStringLiteral("Elimina"),
-                      QStringLiteral("Elimina l'utente evidenziato e tutti i suoi dati in archivio"));
+    Toolbar.addButton(u"seleziona"_s, u"Seleziona"_s, u"Seleziona l'utente evidenziato"_s);
+    Toolbar.addButton(u"annulla"_s, u"Annulla"_s, u"Annulla ogni processo in corso ed esce dalla finestra"_s);
+    Toolbar.addButton(u"nuovo"_s, u"Nuovo"_s, u"Inserisce un nuovo utente"_s);
+    Toolbar.addButton(u"modifica"_s, u"Modifica"_s, u"Modifica i dati anagrafici dell'utente evidenziato"_s);
+    Toolbar.addButton(u"elimina"_s, u"Elimina"_s,
+                      u"Elimina l'utente evidenziato e tutti i suoi dati in archivio"_s);
 
     place(Label1, 120, 165, 2190, 225);
     place(Ricerca, 2370, 120, 3000, 315);
-    Ricerca.setToolTip(
-        QStringLiteral("Inserire una parte del nome o cognome per ricercare in automatico l'utente"));
+    Ricerca.setToolTip(u"Inserire una parte del nome o cognome per ricercare in automatico l'utente"_s);
     Ricerca.setAccessibleName(Label1.caption());
 
     place(LW, 120, 555, 8190, 5895);
     LW.setAccessibleName(caption());
-    LW.addColumn(QStringLiteral("ID_atleta"), 0);
-    LW.addColumn(QStringLiteral("Cognome"), 2805);
-    LW.addColumn(QStringLiteral("Nome"), 2540);
-    LW.addColumn(QStringLiteral("Data Nascita"), 2540, Qt::AlignHCenter);
+    LW.addColumn(u"ID_atleta"_s, 0);
+    LW.addColumn(u"Cognome"_s, 2805);
+    LW.addColumn(u"Nome"_s, 2540);
+    LW.addColumn(u"Data Nascita"_s, 2540, Qt::AlignHCenter);
 
     connect(&Toolbar, &toolkit::Toolbar::buttonClick, this, &UtentiSelezione::Toolbar_ButtonClick);
     connect(&Ricerca, &toolkit::TextBox::changed, this,
@@ -77,10 +74,10 @@ void UtentiSelezione::FillListAtleti() {
 
 std::shared_ptr<runtime::Collection<utente>> UtentiSelezione::caricaUtenti() {
     auto utenti = std::make_shared<runtime::Collection<utente>>();
-    for (auto righe = db::comune().getRs(QStringLiteral("SELECT id_utente FROM UTENTI")); !righe.EOF_();
+    for (auto righe = db::comune().getRs(u"SELECT id_utente FROM UTENTI"_s); !righe.EOF_();
          righe.MoveNext()) {
         auto atleta = std::make_shared<utente>();
-        atleta->carica(righe.Fields(QStringLiteral("id_utente")).Value().toInt32());
+        atleta->carica(righe.Fields(u"id_utente"_s).Value().toInt32());
         utenti->Add(atleta);
     }
     return utenti;
@@ -88,25 +85,23 @@ std::shared_ptr<runtime::Collection<utente>> UtentiSelezione::caricaUtenti() {
 
 void UtentiSelezione::Toolbar_ButtonClick(const QString& key) {
     const QString tasto = key.toLower();
-    if (tasto == QLatin1String("seleziona")) {
+    if (tasto == QLatin1String("seleziona"))
         selezionaUtente();
-    } else if (tasto == QLatin1String("annulla")) {
+    else if (tasto == QLatin1String("annulla"))
         unload();
-    } else if (tasto == QLatin1String("nuovo")) {
+    else if (tasto == QLatin1String("nuovo"))
         nuovoUtente();
-    } else if (tasto == QLatin1String("modifica")) {
+    else if (tasto == QLatin1String("modifica"))
         modificaUtente();
-    } else if (tasto == QLatin1String("elimina")) {
+    else if (tasto == QLatin1String("elimina"))
         eliminaUtente();
-    }
 }
 
 void UtentiSelezione::LW_DblClick() {
-    if (Tag == QLatin1String("MODIFICA")) {
+    if (Tag == QLatin1String("MODIFICA"))
         modificaUtente();
-    } else if (Tag == QLatin1String("SELEZIONA")) {
+    else if (Tag == QLatin1String("SELEZIONA"))
         selezionaUtente();
-    }
 }
 
 void UtentiSelezione::selezionaUtente() {
@@ -119,7 +114,7 @@ void UtentiSelezione::modificaUtente() {
 }
 
 void UtentiSelezione::nuovoUtente() {
-    apriUtente(QStringLiteral("0"));
+    apriUtente(u"0"_s);
 }
 
 void UtentiSelezione::apriUtente(const QString& chiave) {
@@ -133,19 +128,17 @@ void UtentiSelezione::apriUtente(const QString& chiave) {
 void UtentiSelezione::eliminaUtente() {
     try {
         const qint32 chiave = runtime::textToInt32(LW.selectedText());
-        if (host::ask(
-                QStringLiteral("Sei sicuro di cancellare l'atleta? Verranno cancellate tutte le sue schede!"),
-                host::Icon::Critical, host::Buttons::YesNo) != host::Answer::Yes) {
+        if (host::ask(u"Sei sicuro di cancellare l'atleta? Verranno cancellate tutte le sue schede!"_s,
+                      host::Icon::Critical, host::Buttons::YesNo) != host::Answer::Yes)
             return;
-        }
         utente atleta;
         if (atleta.Elimina(chiave)) {
-            host::message(QStringLiteral("Utente e schede eliminati"), host::Icon::Information);
+            host::message(u"Utente e schede eliminati"_s, host::Icon::Information);
             FillListAtleti();
         }
     } catch (const runtime::Error& error) {
-        host::message(QStringLiteral("Si è verificato un errore:") + error.description() +
-                          QStringLiteral("\rContattare il supporto tecnico"),
+        host::message(u"Si è verificato un errore:"_s + error.description() +
+                          u"\rContattare il supporto tecnico"_s,
                       host::Icon::Critical);
     }
 }

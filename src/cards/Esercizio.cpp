@@ -20,10 +20,10 @@ qint32 Esercizio::save() {
     if (ct == 0) {
         // `serie` stands between quotes here and bare below: the store absorbs it.
         archivio_.Execute(u"INSERT INTO "_s + tabella() +
-                          QStringLiteral("  (NProg, ID_Scheda, ID_Fig, "
-                                         "Durata, Frequenza, Ampiezza, RecuperoMin,RecuperoSec,"
-                                         "Serie, Modalita, Peso, isLibero, [Note])  "
-                                         "VALUES (") +
+                          u"  (NProg, ID_Scheda, ID_Fig, "
+                          "Durata, Frequenza, Ampiezza, RecuperoMin,RecuperoSec,"
+                          "Serie, Modalita, Peso, isLibero, [Note])  "
+                          "VALUES ("_s +
                           numero(nprog) + u',' + numero(id_scheda) + u',' + numero(id_fig) + u",'"_s +
                           durata + u"','"_s + frequenza + u"','"_s + ampiezza + u"',"_s +
                           numero(recuperoMin) + u',' + numero(recuperoSec) + u",'"_s + numero(serie) +

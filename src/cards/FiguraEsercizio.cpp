@@ -42,9 +42,8 @@ void FiguraEsercizio::prendi(const QString& testo) {
 }
 
 void FiguraEsercizio::svuota() {
-    if (!isEmpty()) {
+    if (!isEmpty())
         clear();
-    }
     Tag.clear();
 }
 
@@ -55,7 +54,6 @@ void FiguraEsercizio::carica(qint32 id_fig) {
     const QSize pixels = (QSizeF(contentsRect().size()) * devicePixelRatioF()).toSize();
     const QImage stretched = picture.stretchedTo(pixels);
     // The record is written at each key: a picture that shows already is not drawn anew.
-    if (stretched.cacheKey() != image().cacheKey()) {
+    if (stretched.cacheKey() != image().cacheKey())
         setImage(stretched);
-    }
 }

@@ -50,10 +50,9 @@ public:
     bool remove(std::shared_ptr<Record> s) {
         // Held here: the caller's may be the collection's own.
         const std::shared_ptr<Record> una = std::move(s);
-        for (int i = schede->Count(); i >= 1; --i) {
+        for (int i = schede->Count(); i >= 1; --i)
             if (schede->Item(i) == una)
                 schede->Remove(i);
-        }
         una->Elimina(0);
         return true;
     }

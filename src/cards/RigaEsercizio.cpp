@@ -7,12 +7,14 @@
 #include "platform/runtime/Conversions.h"
 #include "platform/toolkit/Twips.h"
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 namespace {
 
-const QString chiaveFigura = QStringLiteral("quiverdeck");
-const QString chiaveLibero = QStringLiteral("libero");
+const QString chiaveFigura = u"quiverdeck"_s;
+const QString chiaveLibero = u"libero"_s;
 
 /// The picture's place, in twips.
 constexpr QSizeF quadroFigura{2265, 2160};
@@ -25,30 +27,29 @@ constexpr std::array<Posto, 2> posti{Posto{15, 45, 1365, 1620, 1950, 3975, 210, 
                                      Posto{30, 60, 1395, 1650, 1980, 3990, 2955, 2745, 2730, 2715, 120}};
 
 QString nome(const char* controllo, int indice) {
-    return QStringLiteral("%1_%2").arg(QLatin1String(controllo)).arg(indice);
+    return u"%1_%2"_s.arg(QLatin1String(controllo)).arg(indice);
 }
 
 } // namespace
 
 RigaEsercizio::RigaEsercizio(int indice, int righe, QWidget* pagina, sheet::PictureCache& immagini)
     : Frame1(nome("Frame1", indice), pagina), FrameLibero(nome("FrameLibero", indice), pagina),
-      Label8(nome("Label8", indice), QStringLiteral("Esercizio n. "), pagina),
+      Label8(nome("Label8", indice), u"Esercizio n. "_s, pagina),
       nEsercizio(nome("nEsercizio", indice), QString::number(indice + 1), pagina),
       InserisciEsecizio(nome("InserisciEsecizio", indice), QString(), pagina),
       EliminaEsercizio(nome("EliminaEsercizio", indice), QString(), pagina),
       TipoEsercizio(nome("TipoEsercizio", indice), pagina),
       invito(nome("invito", indice), FiguraEsercizio::invito(), &Frame1),
-      etiDurata(nome("etiDurata", indice), QStringLiteral("Durata:"), &Frame1),
-      etiFrequenza(nome("etiFrequenza", indice), QStringLiteral("Frequenza: "), &Frame1),
-      etiAmpiezza(nome("etiAmpiezza", indice), QStringLiteral("Ampiezza: "), &Frame1),
-      etiSerie(nome("etiSerie", indice), QStringLiteral("Serie:"), &Frame1),
-      etiRecupero(nome("etiRecupero", indice), QStringLiteral("Recupero: "), &Frame1),
-      etiMin(nome("etiMin", indice), QStringLiteral("min"), &Frame1),
-      etiSec(nome("etiSec", indice), QStringLiteral("sec"), &Frame1),
-      etiModalita(nome("etiModalita", indice), QStringLiteral("Modalità:"), &Frame1),
-      etiPeso(nome("etiPeso", indice), QStringLiteral("Peso:"), &Frame1),
-      etiNote(nome("etiNote", indice), QStringLiteral("Note: "), &Frame1),
-      etiDescrizione(nome("etiDescrizione", indice), QStringLiteral("Descrizione:"), &FrameLibero),
+      etiDurata(nome("etiDurata", indice), u"Durata:"_s, &Frame1),
+      etiFrequenza(nome("etiFrequenza", indice), u"Frequenza: "_s, &Frame1),
+      etiAmpiezza(nome("etiAmpiezza", indice), u"Ampiezza: "_s, &Frame1),
+      etiSerie(nome("etiSerie", indice), u"Serie:"_s, &Frame1),
+      etiRecupero(nome("etiRecupero", indice), u"Recupero: "_s, &Frame1),
+      etiMin(nome("etiMin", indice), u"min"_s, &Frame1), etiSec(nome("etiSec", indice), u"sec"_s, &Frame1),
+      etiModalita(nome("etiModalita", indice), u"Modalità:"_s, &Frame1),
+      etiPeso(nome("etiPeso", indice), u"Peso:"_s, &Frame1),
+      etiNote(nome("etiNote", indice), u"Note: "_s, &Frame1),
+      etiDescrizione(nome("etiDescrizione", indice), u"Descrizione:"_s, &FrameLibero),
       figura(nome("figura", indice), &Frame1, immagini, quadroFigura),
       durata(nome("durata", indice), &Frame1), frequenza(nome("frequenza", indice), &Frame1),
       ampiezza(nome("ampiezza", indice), &Frame1), serie(nome("serie", indice), &Frame1),
@@ -60,23 +61,21 @@ RigaEsercizio::RigaEsercizio(int indice, int righe, QWidget* pagina, sheet::Pict
     ampiezza.addItems(valoriEsercizio::ampiezze());
     modalita.addItems(valoriEsercizio::modalita());
     // These texts go into SQL as they stand.
-    for (toolkit::Combo* elenco : elenchi()) {
+    for (toolkit::Combo* elenco : elenchi())
         elenco->guardApostrophes();
-    }
     peso.guardApostrophes();
     for (toolkit::TextBox* numero : numeri()) {
         numero->setKeyFilter([](QChar tasto) {
             return tasto == QChar(3) || tasto == QChar(8) || (tasto >= u'0' && tasto <= u'9');
         });
     }
-    const QString tip = QStringLiteral("Scegli il tipo di esercizio");
-    TipoEsercizio.addTab(chiaveFigura, QStringLiteral("Quiver-Deck"), tip);
-    TipoEsercizio.addTab(chiaveLibero, QStringLiteral("Libero"), tip);
+    const QString tip = u"Scegli il tipo di esercizio"_s;
+    TipoEsercizio.addTab(chiaveFigura, u"Quiver-Deck"_s, tip);
+    TipoEsercizio.addTab(chiaveLibero, u"Libero"_s, tip);
     for (toolkit::Label* etichetta :
          {&Label8, &nEsercizio, &etiDurata, &etiFrequenza, &etiAmpiezza, &etiSerie, &etiRecupero, &etiMin,
-          &etiSec, &etiModalita, &etiPeso, &etiNote}) {
+          &etiSec, &etiModalita, &etiPeso, &etiNote})
         etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // level with the field beside it
-    }
     invito.setWordWrap(true);
     invito.setAlignment(Qt::AlignCenter);
     FrameLibero.hide();
@@ -129,24 +128,23 @@ void RigaEsercizio::nomina(int indice) {
     const auto pulsante = [](toolkit::Button& b, const QString& tip, const QString& chiave) {
         b.setToolTip(tip);
         b.setAccessibleName(tip);
-        b.setPicture(artwork::icona(QStringLiteral("SchedaCorpo"), chiave));
+        b.setPicture(artwork::icona(u"SchedaCorpo"_s, chiave));
     };
-    pulsante(InserisciEsecizio, QStringLiteral("Inserisce un esercizio in questo punto"),
-             QStringLiteral("InserisciEsecizio"));
-    pulsante(EliminaEsercizio, QStringLiteral("Elimina l'esercizio"), QStringLiteral("EliminaEsercizio"));
-    const QString riga = QStringLiteral(", riga %1").arg(indice + 1);
-    TipoEsercizio.setAccessibleName(QStringLiteral("Tipo di esercizio") + riga);
-    figura.setAccessibleName(QStringLiteral("Figura dell’esercizio") + riga);
-    durata.setAccessibleName(QStringLiteral("Durata") + riga);
-    frequenza.setAccessibleName(QStringLiteral("Frequenza") + riga);
-    ampiezza.setAccessibleName(QStringLiteral("Ampiezza") + riga);
-    serie.setAccessibleName(QStringLiteral("Serie") + riga);
-    recuperoMin.setAccessibleName(QStringLiteral("Minuti di recupero") + riga);
-    recuperoSec.setAccessibleName(QStringLiteral("Secondi di recupero") + riga);
-    modalita.setAccessibleName(QStringLiteral("Modalità") + riga);
-    peso.setAccessibleName(QStringLiteral("Peso") + riga);
-    note.setAccessibleName(QStringLiteral("Note") + riga);
-    noteLibere.setAccessibleName(QStringLiteral("Descrizione") + riga);
+    pulsante(InserisciEsecizio, u"Inserisce un esercizio in questo punto"_s, u"InserisciEsecizio"_s);
+    pulsante(EliminaEsercizio, u"Elimina l'esercizio"_s, u"EliminaEsercizio"_s);
+    const QString riga = u", riga %1"_s.arg(indice + 1);
+    TipoEsercizio.setAccessibleName(u"Tipo di esercizio"_s + riga);
+    figura.setAccessibleName(u"Figura dell’esercizio"_s + riga);
+    durata.setAccessibleName(u"Durata"_s + riga);
+    frequenza.setAccessibleName(u"Frequenza"_s + riga);
+    ampiezza.setAccessibleName(u"Ampiezza"_s + riga);
+    serie.setAccessibleName(u"Serie"_s + riga);
+    recuperoMin.setAccessibleName(u"Minuti di recupero"_s + riga);
+    recuperoSec.setAccessibleName(u"Secondi di recupero"_s + riga);
+    modalita.setAccessibleName(u"Modalità"_s + riga);
+    peso.setAccessibleName(u"Peso"_s + riga);
+    note.setAccessibleName(u"Note"_s + riga);
+    noteLibere.setAccessibleName(u"Descrizione"_s + riga);
 }
 
 std::array<QWidget*, 13> RigaEsercizio::ordine() {
@@ -188,9 +186,8 @@ void RigaEsercizio::scrivi(Esercizio& e) {
     e.peso = peso.text();
     e.note = note.text();
     e.isLibero = isLibero();
-    if (e.isLibero) {
+    if (e.isLibero)
         e.note = noteLibere.text();
-    }
     figura.scrivi(e);
 }
 
@@ -221,25 +218,19 @@ void RigaEsercizio::riprendi(const TestiRiga& testi) {
     peso.setText(testi.peso);
     note.setText(testi.note);
     noteLibere.setText(testi.noteLibere);
-    if (testi.figura.isEmpty()) {
+    if (testi.figura.isEmpty())
         figura.svuota();
-    } else if (testi.figura != figura.Tag) {
+    else if (testi.figura != figura.Tag)
         figura.prendi(testi.figura);
-    }
 }
 
 void RigaEsercizio::normalizza() {
-    for (toolkit::Combo* elenco : elenchi()) {
-        if (elenco->text().isEmpty()) {
+    for (toolkit::Combo* elenco : elenchi())
+        if (elenco->text().isEmpty())
             elenco->selectIndex(0);
-        }
-    }
-    for (toolkit::TextBox* numero : numeri()) {
-        if (numero->text().isEmpty()) {
-            numero->setText(QStringLiteral("0"));
-        }
-    }
-    if (figura.Tag.isEmpty()) {
+    for (toolkit::TextBox* numero : numeri())
+        if (numero->text().isEmpty())
+            numero->setText(u"0"_s);
+    if (figura.Tag.isEmpty())
         figura.svuota();
-    }
 }

@@ -12,6 +12,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 using namespace variabiliGlobali;
 
 namespace {
@@ -21,28 +23,24 @@ bool editorAperto() {
 }
 
 QString nomeDi(const mdiScheda& editor) {
-    if (const auto* modello = dynamic_cast<const SchedaModello*>(editor.schedaAperta.get())) {
+    if (const auto* modello = dynamic_cast<const SchedaModello*>(editor.schedaAperta.get()))
         return modello->descrizione;
-    }
     return editor.utente->cognome + u' ' + editor.utente->nome;
 }
 
 QString domanda(const SchedaSospesa& sospesa) {
-    return QStringLiteral("Ripristinare la scheda che era aperta %1, ultima modifica il %2 alle %3?\n\n"
-                          "Il programma si era chiuso in modo imprevisto. Con «No» la scheda resta "
-                          "conservata in un file a parte.")
-        .arg((sospesa.scheda->isModello ? QStringLiteral("(modello «%1»)") : QStringLiteral("per %1"))
-                 .arg(sospesa.nome),
-             sospesa.ora.toString(QStringLiteral("dd/MM/yyyy")),
-             sospesa.ora.toString(QStringLiteral("HH:mm")));
+    return u"Ripristinare la scheda che era aperta %1, ultima modifica il %2 alle %3?\n\n"
+           "Il programma si era chiuso in modo imprevisto. Con «No» la scheda resta "
+           "conservata in un file a parte."_s.arg(
+               (sospesa.scheda->isModello ? u"(modello «%1»)"_s : u"per %1"_s).arg(sospesa.nome),
+               sospesa.ora.toString(u"dd/MM/yyyy"_s), sospesa.ora.toString(u"HH:mm"_s));
 }
 
 } // namespace
 
 bool RipresaScheda::scrivi() {
-    if (riaprendo_) {
+    if (riaprendo_)
         return true;
-    }
     if (!editorAperto()) {
         if (!scritto_.isEmpty()) {
             file_.rimuovi();
@@ -60,34 +58,29 @@ bool RipresaScheda::scrivi() {
                           .pagina = {},
                           .eliminati = eliminate_.righe(),
                           .ora = {}};
-    if (SchedaCorpo::esiste() && SchedaCorpo::comune().isLoaded()) {
+    if (SchedaCorpo::esiste() && SchedaCorpo::comune().isLoaded())
         sospesa.pagina = SchedaCorpo::comune().pagina();
-    }
     const QByteArray stato = sospesa.stato();
-    if (stato == scritto_) {
+    if (stato == scritto_)
         return true;
-    }
     if (scritto_.isEmpty() && file_.leggi()) {
         // Of an earlier run: when it was offered the store could not be read.
-        file_.mettiDaParte(QStringLiteral("precedente"));
+        file_.mettiDaParte(u"precedente"_s);
     }
-    if (!file_.scrivi(SchedaSospesa::file(stato, QDateTime::currentDateTime()))) {
+    if (!file_.scrivi(SchedaSospesa::file(stato, QDateTime::currentDateTime())))
         return false;
-    }
     scritto_ = stato;
     return true;
 }
 
 void RipresaScheda::dopoEvento() {
-    if (scrivi() || avvisato_) {
+    if (scrivi() || avvisato_)
         return;
-    }
     avvisato_ = true; // before the box: its own events come here too
-    host::message(
-        QStringLiteral("Impossibile scrivere «%1», la copia di sicurezza della scheda aperta: se il "
-                       "programma si chiudesse ora, le modifiche non salvate andrebbero perse.")
-            .arg(QFileInfo(file_.percorso()).fileName()),
-        host::Icon::Exclamation);
+    host::message(u"Impossibile scrivere «%1», la copia di sicurezza della scheda aperta: se il "
+                  "programma si chiudesse ora, le modifiche non salvate andrebbero perse."_s.arg(
+                      QFileInfo(file_.percorso()).fileName()),
+                  host::Icon::Exclamation);
 }
 
 void RipresaScheda::primaDellaFine() noexcept {
@@ -100,35 +93,34 @@ void RipresaScheda::primaDellaFine() noexcept {
 void RipresaScheda::scarta(const QString& motivo, const QString& spiegazione) const {
     const QString nome = file_.mettiDaParte(motivo);
     host::message(nome.isEmpty() ? spiegazione
-                                 : spiegazione + QStringLiteral("\n\nIl file è conservato con il nome «%1».")
-                                                     .arg(QFileInfo(nome).fileName()),
+                                 : spiegazione + u"\n\nIl file è conservato con il nome «%1»."_s.arg(
+                                                     QFileInfo(nome).fileName()),
                   host::Icon::Exclamation);
 }
 
 void RipresaScheda::proponi() {
-    if (!file_.esiste() || editorAperto()) {
+    if (!file_.esiste() || editorAperto())
         return;
-    }
     const auto contenuto = file_.leggi();
     auto sospesa = contenuto ? SchedaSospesa::leggi(*contenuto) : std::nullopt;
     if (!sospesa) {
-        scarta(QStringLiteral("danneggiata"),
-               QStringLiteral("La copia di sicurezza della scheda che era aperta è danneggiata e non si può "
-                              "ripristinare."));
+        scarta(u"danneggiata"_s,
+               u"La copia di sicurezza della scheda che era aperta è danneggiata e non si può "
+               "ripristinare."_s);
         return;
     }
     if (host::ask(domanda(*sospesa), host::Icon::Question, host::Buttons::YesNo) != host::Answer::Yes) {
-        file_.mettiDaParte(QStringLiteral("rifiutata"));
+        file_.mettiDaParte(u"rifiutata"_s);
         return;
     }
     try {
         if (!sospesa->confronta()) {
-            scarta(QStringLiteral("senzaAtleta"),
-                   QStringLiteral("L’atleta della scheda, %1, non è più in archivio.").arg(sospesa->nome));
+            scarta(u"senzaAtleta"_s,
+                   u"L’atleta della scheda, %1, non è più in archivio."_s.arg(sospesa->nome));
             return;
         }
     } catch (const runtime::Error& error) {
-        host::message(QStringLiteral("Per ora la scheda non si può ripristinare: ") + error.description(),
+        host::message(u"Per ora la scheda non si può ripristinare: "_s + error.description(),
                       host::Icon::Exclamation);
         return;
     }
@@ -141,9 +133,8 @@ void RipresaScheda::riapri(SchedaSospesa& sospesa) {
     idModelloSelezionato = sospesa.idModelloSelezionato;
     const bool isSaved = sospesa.scheda->isSaved;
     std::vector<Esercizio> righe; // loading the pages writes into the lines
-    for (const auto& riga : *sospesa.scheda->esercizi) {
+    for (const auto& riga : *sospesa.scheda->esercizi)
         righe.push_back(*riga);
-    }
     scritto_ = sospesa.stato();
     riaprendo_ = true; // and stays so if an error ends the program on the way
     mdiScheda::comune().riapri(sospesa.scheda);

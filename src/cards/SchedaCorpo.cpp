@@ -13,6 +13,8 @@
 #include <QScopedValueRollback>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double larghezza = 6300; // outer size, twips
@@ -28,11 +30,9 @@ bool rifiuta(const QString& testo) {
 } // namespace
 
 SchedaCorpo::SchedaCorpo()
-    : Form(QStringLiteral("SchedaCorpo")), riga{{{0, righe, client(), immagini},
-                                                 {1, righe, client(), immagini}}},
-      VS(QStringLiteral("VS"), client()),
-      Command1(QStringLiteral("Command1"), QStringLiteral("SOLO PER TECNICO"), client()) {
-    setCaption(QStringLiteral("Esercizi"));
+    : Form(u"SchedaCorpo"_s), riga{{{0, righe, client(), immagini}, {1, righe, client(), immagini}}},
+      VS(u"VS"_s, client()), Command1(u"Command1"_s, u"SOLO PER TECNICO"_s, client()) {
+    setCaption(u"Esercizi"_s);
     setParentForm(mdiScheda::comune());
     disponi();
     for (int i = 0; i < righe; ++i) {
@@ -47,15 +47,14 @@ void SchedaCorpo::disponi() {
     toolkit::place(VS, 5985, 0, 240, 5475);
     VS.setMin(1);
     VS.setMax(2);
-    VS.setAccessibleName(QStringLiteral("Scorre gli esercizi"));
+    VS.setAccessibleName(u"Scorre gli esercizi"_s);
     toolkit::place(Command1, 2835, 5265, 3120, 195);
     Command1.hide();
     QWidget* precedente = nullptr;
     for (RigaEsercizio& r : riga) {
         for (QWidget* controllo : r.ordine()) {
-            if (precedente != nullptr) {
+            if (precedente != nullptr)
                 setTabOrder(precedente, controllo);
-            }
             precedente = controllo;
         }
     }
@@ -74,37 +73,32 @@ void SchedaCorpo::collega(int i) {
     connect(&r.recuperoMin, &toolkit::TextBox::changed, this, &SchedaCorpo::riconta);
     connect(&r.recuperoSec, &toolkit::TextBox::changed, this, &SchedaCorpo::riconta);
     connect(&r.serie, &toolkit::TextBox::changed, this, [this, i] { ricontaSerie(i); });
-    for (toolkit::Combo* elenco : {&r.frequenza, &r.ampiezza, &r.modalita}) {
+    for (toolkit::Combo* elenco : {&r.frequenza, &r.ampiezza, &r.modalita})
         connect(elenco, &toolkit::Combo::clicked, this, &SchedaCorpo::segnaModifica);
-    }
     connect(&r.peso, &toolkit::TextBox::changed, this, &SchedaCorpo::segnaModifica);
     connect(&r.note, &toolkit::TextArea::changed, this, &SchedaCorpo::segnaModifica);
     connect(&r.noteLibere, &toolkit::TextArea::changed, this, &SchedaCorpo::segnaModifica);
-    for (toolkit::TextBox* numero : r.numeri()) {
+    for (toolkit::TextBox* numero : r.numeri())
         connect(numero, &toolkit::TextBox::gotFocus, this, [numero] { selezionaTesto(*numero); });
-    }
 }
 
 void SchedaCorpo::controlla(int i) {
     RigaEsercizio& r = riga.at(static_cast<std::size_t>(i));
-    for (toolkit::Combo* elenco : r.elenchi()) {
+    for (toolkit::Combo* elenco : r.elenchi())
         validazione.add(elenco, [elenco] { return valoreInLista(*elenco); });
-    }
     validazione.add(&r.recuperoSec, [&r] {
         return runtime::strictNumber(r.recuperoSec.text()) <= massimoSecondi ||
-               rifiuta(QStringLiteral("Inserire un numero tra 0 e 59"));
+               rifiuta(u"Inserire un numero tra 0 e 59"_s);
     });
     validazione.add(&r.serie, [&r] {
-        return runtime::leadingNumber(r.serie.text()) <= massimoSerie ||
-               rifiuta(QStringLiteral("Valore troppo grande!"));
+        return runtime::leadingNumber(r.serie.text()) <= massimoSerie || rifiuta(u"Valore troppo grande!"_s);
     });
 }
 
 SchedaApribile& SchedaCorpo::aperta() {
     const auto& scheda = mdiScheda::comune().schedaAperta;
-    if (!scheda) {
+    if (!scheda)
         runtime::raise(runtime::ObjectNotSet);
-    }
     return *scheda;
 }
 
@@ -113,9 +107,8 @@ void SchedaCorpo::onLoad() {
     nRighe = righe;
     normalizzaCampi();
     primoEsercizio = 1;
-    if (aperta().esercizi->Count() > 0) {
+    if (aperta().esercizi->Count() > 0)
         mostraEsercizi();
-    }
     aggiungiEserciziVuoti();
 }
 
@@ -128,9 +121,8 @@ void SchedaCorpo::mostraEsercizi() {
     const SchedaApribile& scheda = aperta();
     for (int i = 0; i < nRighe; ++i) {
         const int posizione = primoEsercizio + i;
-        if (posizione > scheda.esercizi->Count()) {
+        if (posizione > scheda.esercizi->Count())
             return; // the rows left keep what they show
-        }
         const auto e = scheda.esercizi->Item(posizione);
         RigaEsercizio& r = riga.at(static_cast<std::size_t>(i));
         r.TipoEsercizio.select(e->isLibero ? 2 : 1);
@@ -142,35 +134,30 @@ void SchedaCorpo::mostraEsercizi() {
 void SchedaCorpo::normalizzaCampi() {
     const QScopedValueRollback<bool> caricamento(inCaricamento, true);
     VS.setMin(1);
-    for (RigaEsercizio& r : riga) {
+    for (RigaEsercizio& r : riga)
         r.normalizza();
-    }
 }
 
 void SchedaCorpo::aggiungiEserciziVuoti() {
     SchedaApribile& scheda = aperta();
     int mancanti = scheda.esercizi->Count() % nRighe;
-    if (mancanti == 0) {
+    if (mancanti == 0)
         mancanti = nRighe;
-    }
-    for (; mancanti > 0; --mancanti) {
+    for (; mancanti > 0; --mancanti)
         scheda.esercizi->Add(std::make_shared<Esercizio>());
-    }
 }
 
 void SchedaCorpo::ScriviDati() {
     const SchedaApribile& scheda = aperta();
-    for (int i = 0; i < nRighe; ++i) {
+    for (int i = 0; i < nRighe; ++i)
         riga.at(static_cast<std::size_t>(i)).scrivi(*scheda.esercizi->Item(primoEsercizio + i));
-    }
 }
 
 PaginaEsercizi SchedaCorpo::pagina() const {
     // Where the rows stand, not the bar: it is one ahead when a row's number refused to be written.
     PaginaEsercizi stato{.posizione = (primoEsercizio + 1) / nRighe, .massimo = VS.maximum(), .righe = {}};
-    for (const RigaEsercizio& r : riga) {
+    for (const RigaEsercizio& r : riga)
         stato.righe.push_back(r.testi());
-    }
     return stato;
 }
 
@@ -182,12 +169,10 @@ void SchedaCorpo::riprendi(const std::vector<Esercizio>& lette, const std::optio
         VS.setMax(stava->massimo);
     }
     // The page has added empty lines to a list that had them already.
-    while (scheda.esercizi->Count() > std::max(static_cast<int>(lette.size()), primoEsercizio + nRighe - 1)) {
+    while (scheda.esercizi->Count() > std::max(static_cast<int>(lette.size()), primoEsercizio + nRighe - 1))
         scheda.esercizi->Remove(scheda.esercizi->Count());
-    }
-    for (std::size_t i = 0; i < lette.size(); ++i) {
+    for (std::size_t i = 0; i < lette.size(); ++i)
         *scheda.esercizi->Item(static_cast<int>(i) + 1) = lette[i];
-    }
     mostraEsercizi();
     normalizzaCampi();
     for (std::size_t i = 0; stava && i < std::min(riga.size(), stava->righe.size()); ++i) {
@@ -221,21 +206,17 @@ void SchedaCorpo::elimina(int i) {
 }
 
 void SchedaCorpo::scorri() {
-    if (!inCaricamento) {
+    if (!inCaricamento)
         ScriviDati();
-    }
     primoEsercizio = runtime::toInt16(VS.value() * nRighe - 1);
-    if (inCaricamento) {
+    if (inCaricamento)
         return;
-    }
-    if (primoEsercizio > aperta().esercizi->Count()) {
+    if (primoEsercizio > aperta().esercizi->Count())
         aggiungiEserciziVuoti();
-    }
     mostraEsercizi();
     normalizzaCampi();
-    for (int i = 0; i < nRighe; ++i) {
+    for (int i = 0; i < nRighe; ++i)
         riga.at(static_cast<std::size_t>(i)).nEsercizio.setCaption(QString::number(primoEsercizio + i));
-    }
     limitaVS();
 }
 
@@ -246,18 +227,16 @@ void SchedaCorpo::limitaVS() {
 }
 
 void SchedaCorpo::riconta() {
-    if (inCaricamento) {
+    if (inCaricamento)
         return;
-    }
     ScriviDati();
     mdiScheda::comune().contaTempi->contaEstampa();
     segnaModifica();
 }
 
 void SchedaCorpo::ricontaSerie(int i) {
-    if (runtime::leadingNumber(riga.at(static_cast<std::size_t>(i)).serie.text()) <= massimoSerie) {
+    if (runtime::leadingNumber(riga.at(static_cast<std::size_t>(i)).serie.text()) <= massimoSerie)
         riconta();
-    }
 }
 
 void SchedaCorpo::segnaModifica() {

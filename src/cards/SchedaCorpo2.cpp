@@ -88,9 +88,8 @@ void SchedaCorpo2::disponi() {
     place(cmdSucc, 3120, 3240, 735, 495);
     const std::array<QWidget*, 9> ordine{&durata, &frequenza, &ampiezza, &recupero, &modalita,
                                          &peso,   &note,      &cmdPrec,  &cmdSucc};
-    for (std::size_t i = 1; i < ordine.size(); ++i) {
+    for (std::size_t i = 1; i < ordine.size(); ++i)
         setTabOrder(ordine.at(i - 1), ordine.at(i));
-    }
 }
 
 void SchedaCorpo2::nomina() {
@@ -116,9 +115,8 @@ void SchedaCorpo2::controlla() {
         validazione.add(elenco, [elenco] { return valoreInLista(*elenco); });
         elenco->guardApostrophes(); // these texts go into SQL as they stand
     }
-    for (toolkit::TextBox* campo : {&ampiezza, &peso}) {
+    for (toolkit::TextBox* campo : {&ampiezza, &peso})
         campo->guardApostrophes();
-    }
 }
 
 Esercizio& SchedaCorpo2::corrente() {
@@ -126,15 +124,13 @@ Esercizio& SchedaCorpo2::corrente() {
 }
 
 void SchedaCorpo2::onLoad() {
-    if (!schedaAperta) {
+    if (!schedaAperta)
         runtime::raise(runtime::ObjectNotSet);
-    }
     setOuterSize(larghezza, altezza);
     svuotaPagina();
     esercizioCorrente = 1;
-    if (schedaAperta->esercizi->Count() > 0) {
+    if (schedaAperta->esercizi->Count() > 0)
         mostraEsercizio();
-    }
     schedaAperta->esercizi->Add(std::make_shared<Esercizio>());
 }
 
@@ -164,9 +160,8 @@ void SchedaCorpo2::vai(int posizione) {
 }
 
 void SchedaCorpo2::precedente() {
-    if (esercizioCorrente <= 1) {
+    if (esercizioCorrente <= 1)
         return;
-    }
     ScriviDati();
     vai(esercizioCorrente - 1);
     svuotaPagina();

@@ -16,6 +16,8 @@
 #include <array>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 namespace {
@@ -25,7 +27,7 @@ constexpr double altezza = 3505;
 
 /// A new card runs for three weeks and three sessions a week.
 constexpr int giorniDiPeriodo = 21;
-const QString frequenzaUsuale = QStringLiteral("3");
+const QString frequenzaUsuale = u"3"_s;
 
 /// Nine days fill the list; pixels.
 constexpr QSize altezzaGiorno{100, 15};
@@ -33,25 +35,21 @@ constexpr QSize altezzaGiorno{100, 15};
 } // namespace
 
 SchedaIntestazione::SchedaIntestazione()
-    : Form(QStringLiteral("SchedaIntestazione")), Frame1(QStringLiteral("Frame1"), client()),
-      atleta(QStringLiteral("atleta"), QStringLiteral("Atleta:"), &Frame1),
-      intestazione(QStringLiteral("intestazione"), QStringLiteral("Scheda:"), &Frame1),
-      etiCategoria(QStringLiteral("etiCategoria"), QStringLiteral("Categoria:"), &Frame1),
-      etiObiettivo(QStringLiteral("etiObiettivo"), QStringLiteral("Obiettivo:"), &Frame1),
-      etiIstruttore(QStringLiteral("etiIstruttore"), QStringLiteral("Istruttore:"), &Frame1),
-      etiDal(QStringLiteral("etiDal"), QStringLiteral("Dal:"), &Frame1),
-      etiAl(QStringLiteral("etiAl"), QStringLiteral("Al:"), &Frame1),
-      etiFreqAllen(QStringLiteral("etiFreqAllen"), QStringLiteral("Frequenza allenamento settimanale:"),
-                   &Frame1),
-      etiGGAllen(QStringLiteral("etiGGAllen"), QStringLiteral("Giorni di allenamento:"), &Frame1),
-      etiNote(QStringLiteral("etiNote"), QStringLiteral("Note Finali:"), &Frame1),
-      utente(QStringLiteral("utente"), QString(), &Frame1), categoria(QStringLiteral("categoria"), &Frame1),
-      Obiettivo(QStringLiteral("Obiettivo"), &Frame1), Istruttore(QStringLiteral("Istruttore"), &Frame1),
-      dal(QStringLiteral("dal"), &Frame1), al(QStringLiteral("al"), &Frame1),
-      FreqAllen(QStringLiteral("FreqAllen"), &Frame1), Text1(QStringLiteral("Text1"), &Frame1),
-      apriGGAllen(QStringLiteral("apriGGAllen"), QString(), &Frame1), note(QStringLiteral("note"), &Frame1),
-      GGAllen(QStringLiteral("GGAllen"), &Frame1) {
-    setCaption(QStringLiteral("Scheda"));
+    : Form(u"SchedaIntestazione"_s), Frame1(u"Frame1"_s, client()),
+      atleta(u"atleta"_s, u"Atleta:"_s, &Frame1), intestazione(u"intestazione"_s, u"Scheda:"_s, &Frame1),
+      etiCategoria(u"etiCategoria"_s, u"Categoria:"_s, &Frame1),
+      etiObiettivo(u"etiObiettivo"_s, u"Obiettivo:"_s, &Frame1),
+      etiIstruttore(u"etiIstruttore"_s, u"Istruttore:"_s, &Frame1), etiDal(u"etiDal"_s, u"Dal:"_s, &Frame1),
+      etiAl(u"etiAl"_s, u"Al:"_s, &Frame1),
+      etiFreqAllen(u"etiFreqAllen"_s, u"Frequenza allenamento settimanale:"_s, &Frame1),
+      etiGGAllen(u"etiGGAllen"_s, u"Giorni di allenamento:"_s, &Frame1),
+      etiNote(u"etiNote"_s, u"Note Finali:"_s, &Frame1), utente(u"utente"_s, QString(), &Frame1),
+      categoria(u"categoria"_s, &Frame1), Obiettivo(u"Obiettivo"_s, &Frame1),
+      Istruttore(u"Istruttore"_s, &Frame1), dal(u"dal"_s, &Frame1), al(u"al"_s, &Frame1),
+      FreqAllen(u"FreqAllen"_s, &Frame1), Text1(u"Text1"_s, &Frame1),
+      apriGGAllen(u"apriGGAllen"_s, QString(), &Frame1), note(u"note"_s, &Frame1),
+      GGAllen(u"GGAllen"_s, &Frame1) {
+    setCaption(u"Scheda"_s);
     setParentForm(mdiScheda::comune());
     disponi();
     prepara();
@@ -86,33 +84,30 @@ void SchedaIntestazione::disponi() {
 }
 
 void SchedaIntestazione::prepara() {
-    atleta.setFont(toolkit::font(QStringLiteral("MS Sans Serif"), 8.25, true));
+    atleta.setFont(toolkit::font(u"MS Sans Serif"_s, 8.25, true));
     intestazione.setFont(atleta.font());
     for (toolkit::Label* etichetta : {&utente, &intestazione, &etiCategoria, &etiObiettivo, &etiIstruttore,
-                                      &etiDal, &etiAl, &etiFreqAllen, &etiGGAllen, &etiNote}) {
+                                      &etiDal, &etiAl, &etiFreqAllen, &etiGGAllen, &etiNote})
         etichetta->setAlignment(Qt::AlignLeft | Qt::AlignVCenter); // level with the field beside it
-    }
     atleta.setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     utente.setMargin(2);
     utente.setBackgroundRole(QPalette::Base);
     utente.setAutoFillBackground(true);
     Obiettivo.guardApostrophes();
     Istruttore.guardApostrophes();
-    for (int volte = 1; volte <= 7; ++volte) {
+    for (int volte = 1; volte <= 7; ++volte)
         FreqAllen.addItem(QString::number(volte));
-    }
-    Text1.setText(QStringLiteral("Selezionare i giorni..."));
+    Text1.setText(u"Selezionare i giorni..."_s);
     Text1.setReadOnly(true);
     QFont stretto = Text1.font(); // the text is as wide as its box
     stretto.setStretch(95);
     Text1.setFont(stretto);
     Text1.setFocusPolicy(Qt::NoFocus);
     apriGGAllen.setPicture(artwork::icona(objectName(), apriGGAllen.objectName()));
-    apriGGAllen.setToolTip(QStringLiteral("Giorni di allenamento"));
+    apriGGAllen.setToolTip(u"Giorni di allenamento"_s);
     for (const char* giorno : {"Giornaliero", "Nessuno", "Lunedi", "Martedi", "Mercoledi", "Giovedi",
-                               "Venerdi", "Sabato", "Domenica"}) {
+                               "Venerdi", "Sabato", "Domenica"})
         GGAllen.addItem(QLatin1String(giorno));
-    }
     QPalette grigio = GGAllen.palette();
     grigio.setColor(QPalette::Base, grigio.color(QPalette::Button));
     GGAllen.setPalette(grigio);
@@ -134,9 +129,8 @@ void SchedaIntestazione::ordina() {
     QWidget* precedente = nullptr;
     for (const auto& [campo, nome] : campi) {
         campo->setAccessibleName(QLatin1String(nome));
-        if (precedente != nullptr) {
+        if (precedente != nullptr)
             setTabOrder(precedente, campo);
-        }
         precedente = campo;
     }
 }
@@ -174,16 +168,14 @@ void SchedaIntestazione::collega() {
 }
 
 void SchedaIntestazione::controlla() {
-    for (toolkit::Combo* elenco : {&categoria, &FreqAllen}) {
+    for (toolkit::Combo* elenco : {&categoria, &FreqAllen})
         validazione.add(elenco, [elenco] { return valoreInLista(*elenco); });
-    }
 }
 
 ::scheda& SchedaIntestazione::aperta() {
     auto* scheda = dynamic_cast<::scheda*>(mdiScheda::comune().schedaAperta.get());
-    if (scheda == nullptr) {
+    if (scheda == nullptr)
         runtime::raise(runtime::ObjectNotSet);
-    }
     return *scheda;
 }
 
@@ -199,9 +191,8 @@ void SchedaIntestazione::onLoad() {
     caricaFrequenza();
     GGAllenHELPER::scriviGGAllen(aperta().GGAllen, GGAllen);
     note.setText(aperta().note);
-    if (categoria.text().isEmpty()) {
+    if (categoria.text().isEmpty())
         categoria.selectIndex(Categorie::iniziale);
-    }
 }
 
 void SchedaIntestazione::caricaPeriodo() {
@@ -222,9 +213,8 @@ void SchedaIntestazione::caricaPeriodo() {
 
 void SchedaIntestazione::caricaFrequenza() {
     FreqAllen.setText(QString::number(aperta().FreqAllen));
-    if (runtime::strictNumber(FreqAllen.text()) == 0) {
+    if (runtime::strictNumber(FreqAllen.text()) == 0)
         FreqAllen.setText(frequenzaUsuale);
-    }
 }
 
 bool SchedaIntestazione::onQueryUnload() {
@@ -256,9 +246,8 @@ void SchedaIntestazione::scriviAl() {
 
 /// A text that is no whole number from 0 to 255 leaves the record's value; the check refuses it on leaving.
 void SchedaIntestazione::scriviFrequenza() {
-    if (const auto volte = runtime::wholeByte(FreqAllen.text())) {
+    if (const auto volte = runtime::wholeByte(FreqAllen.text()))
         aperta().FreqAllen = *volte;
-    }
     aperta().isSaved = false;
 }
 

@@ -194,10 +194,9 @@ bool esiste(const QString& tabella, const QString& colonna, qint32 chiave) {
 /// All keys of a card's lines that the store still has, looked up at once.
 std::set<qint32> righeEsistenti(const SchedaApribile::Esercizi& righe, bool isModello) {
     QStringList chiavi;
-    for (const auto& riga : righe) {
+    for (const auto& riga : righe)
         if (riga->ct != 0 && riga->isModello == isModello)
             chiavi += QString::number(riga->ct);
-    }
     std::set<qint32> trovate;
     if (chiavi.isEmpty())
         return trovate;
@@ -284,10 +283,9 @@ bool SchedaSospesa::confronta() {
     }
     for (const bool isModello : {false, true}) {
         const std::set<qint32> trovate = righeEsistenti(*scheda->esercizi, isModello);
-        for (const auto& riga : *scheda->esercizi) {
+        for (const auto& riga : *scheda->esercizi)
             if (riga->isModello == isModello && trovate.count(riga->ct) == 0)
                 riga->ct = 0;
-        }
     }
     return true;
 }

@@ -10,35 +10,33 @@
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/Twips.h"
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 SchedeSelezione::SchedeSelezione()
-    : Form(QStringLiteral("SchedeSelezione")), Toolbar(QStringLiteral("Toolbar"), this), ImageList1({24, 24}),
-      Label1(QStringLiteral("Label1"), QStringLiteral("Utente: "), client()),
-      utente_(QStringLiteral("utente"), {}, client()), LW(QStringLiteral("LW"), client()) {
-    setCaption(QStringLiteral("Apri SCHEDA"));
+    : Form(u"SchedeSelezione"_s), Toolbar(u"Toolbar"_s, this), ImageList1({24, 24}),
+      Label1(u"Label1"_s, u"Utente: "_s, client()), utente_(u"utente"_s, {}, client()),
+      LW(u"LW"_s, client()) {
+    setCaption(u"Apri SCHEDA"_s);
     setInnerSize(6015, 5115);
 
     addTopBar(&Toolbar);
-    Toolbar.addButton(QStringLiteral("seleziona"), QStringLiteral("Seleziona"),
-                      QStringLiteral("Seleziona la Scheda evidenziata"));
-    Toolbar.addButton(QStringLiteral("annulla"), QStringLiteral("Annulla"),
-                      QStringLiteral("Chiude la finestra e annulla ogni processo in corso"));
-    Toolbar.addButton(QStringLiteral("elimina"), QStringLiteral("Elimina"),
-                      QStringLiteral("Elimina la Scheda evidenziata"));
-    Toolbar.addButton(QStringLiteral("stampa"), QStringLiteral("Stampa"),
-                      QStringLiteral("Anteprima di Stampa"));
+    Toolbar.addButton(u"seleziona"_s, u"Seleziona"_s, u"Seleziona la Scheda evidenziata"_s);
+    Toolbar.addButton(u"annulla"_s, u"Annulla"_s, u"Chiude la finestra e annulla ogni processo in corso"_s);
+    Toolbar.addButton(u"elimina"_s, u"Elimina"_s, u"Elimina la Scheda evidenziata"_s);
+    Toolbar.addButton(u"stampa"_s, u"Stampa"_s, u"Anteprima di Stampa"_s);
 
     place(Label1, 0, 120, 735, 255);
     place(utente_, 720, 120, 2655, 255);
     place(LW, -15, 540, 6045, 4590);
-    LW.setAccessibleName(QStringLiteral("Schede"));
-    LW.addColumn(QStringLiteral("ID_scheda"), 0);
+    LW.setAccessibleName(u"Schede"_s);
+    LW.addColumn(u"ID_scheda"_s, 0);
     // A date and "Condizionamento generale" show whole; together the columns fill the list.
-    LW.addColumn(QStringLiteral("Dal"), 930);
-    LW.addColumn(QStringLiteral("Al"), 930);
-    LW.addColumn(QStringLiteral("Istruttore"), 2085);
-    LW.addColumn(QStringLiteral("Categoria"), 2070);
+    LW.addColumn(u"Dal"_s, 930);
+    LW.addColumn(u"Al"_s, 930);
+    LW.addColumn(u"Istruttore"_s, 2085);
+    LW.addColumn(u"Categoria"_s, 2070);
 
     connect(&Toolbar, &toolkit::Toolbar::buttonClick, this, &SchedeSelezione::Toolbar_ButtonClick);
     connect(&LW, &toolkit::ReportList::doubleClick, this, &SchedeSelezione::seleziona);
@@ -51,10 +49,9 @@ void SchedeSelezione::onLoad() {
     atleta.carica(idUtenteLista);
     utente_.setCaption(QLatin1Char('[') + atleta.cognome + QLatin1Char(' ') + atleta.nome + QLatin1Char(']'));
     if (LW.count() == 0) {
-        host::message(QStringLiteral("L'utente non ha schede salvate!"), host::Icon::Critical);
-        for (const char* key : {"seleziona", "elimina", "stampa"}) {
+        host::message(u"L'utente non ha schede salvate!"_s, host::Icon::Critical);
+        for (const char* key : {"seleziona", "elimina", "stampa"})
             Toolbar.setButtonEnabled(QString::fromLatin1(key), false);
-        }
     }
 }
 
@@ -75,21 +72,19 @@ void SchedeSelezione::fillList() {
 }
 
 void SchedeSelezione::Toolbar_ButtonClick(const QString& key) {
-    if (key == QLatin1String("seleziona")) {
+    if (key == QLatin1String("seleziona"))
         seleziona();
-    } else if (key == QLatin1String("annulla")) {
+    else if (key == QLatin1String("annulla"))
         unload();
-    } else if (key == QLatin1String("elimina")) {
+    else if (key == QLatin1String("elimina"))
         elimina();
-    } else if (key == QLatin1String("stampa")) {
+    else if (key == QLatin1String("stampa"))
         stampa();
-    }
 }
 
 void SchedeSelezione::seleziona() {
-    if (LW.count() == 0) {
+    if (LW.count() == 0)
         return;
-    }
     variabiliGlobali::idSchedaSelezionata = runtime::textToInt32(LW.selectedText());
     unload();
 }
@@ -97,18 +92,16 @@ void SchedeSelezione::seleziona() {
 void SchedeSelezione::elimina() {
     try {
         const qint32 chiave = runtime::textToInt32(LW.selectedText());
-        if (host::ask(QStringLiteral("Confermi?"), host::Icon::Critical, host::Buttons::YesNo) !=
-            host::Answer::Yes) {
+        if (host::ask(u"Confermi?"_s, host::Icon::Critical, host::Buttons::YesNo) != host::Answer::Yes)
             return;
-        }
         ::scheda scheda;
         if (scheda.Elimina(chiave)) {
-            host::message(QStringLiteral("Scheda eliminata"), host::Icon::Information);
+            host::message(u"Scheda eliminata"_s, host::Icon::Information);
             fillList();
         }
     } catch (const runtime::Error& error) {
-        host::message(QStringLiteral("Si è verificato un errore:\r") + error.description() +
-                          QStringLiteral("\rContattare il supporto tecnico"),
+        host::message(u"Si è verificato un errore:\r"_s + error.description() +
+                          u"\rContattare il supporto tecnico"_s,
                       host::Icon::Critical);
     }
 }

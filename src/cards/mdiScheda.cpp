@@ -18,11 +18,13 @@
 #include "printing/ContatoreTempi.h"
 #include "templates/SchedaModello.h"
 
+using namespace Qt::StringLiterals;
+
 using namespace variabiliGlobali;
 
 namespace {
 
-const QString cartella = QStringLiteral("Cartella");
+const QString cartella = u"Cartella"_s;
 constexpr QSize latoCartella{25, 25}; // pixels
 constexpr QSize latoFigura{150, 150};
 constexpr QSize latoPulsante{24, 24};
@@ -38,24 +40,21 @@ void informa(const QString& testo) {
 } // namespace
 
 mdiScheda::mdiScheda()
-    : ParentForm(QStringLiteral("mdiScheda")), utente(std::make_shared<::utente>()),
-      ToolbarSchede(QStringLiteral("ToolbarSchede"), this), StatusBar1(QStringLiteral("StatusBar1"), this) {
-    setCaption(QStringLiteral(" Zentara"));
+    : ParentForm(u"mdiScheda"_s), utente(std::make_shared<::utente>()),
+      ToolbarSchede(u"ToolbarSchede"_s, this), StatusBar1(u"StatusBar1"_s, this) {
+    setCaption(u" Zentara"_s);
     setResizable(true);
-    ToolbarSchede.addButton(QStringLiteral("salva"), QStringLiteral("Salva"),
-                            QStringLiteral("Salva in archivio la scheda corrente"));
-    ToolbarSchede.addButton(QStringLiteral("SalvaSuModello"), QStringLiteral("Salva su nuovo Modello"),
-                            QStringLiteral("Salva la scheda corrente come Modello"));
+    ToolbarSchede.addButton(u"salva"_s, u"Salva"_s, u"Salva in archivio la scheda corrente"_s);
+    ToolbarSchede.addButton(u"SalvaSuModello"_s, u"Salva su nuovo Modello"_s,
+                            u"Salva la scheda corrente come Modello"_s);
     ToolbarSchede.addSeparator();
-    ToolbarSchede.addButton(QStringLiteral("stampa"), QStringLiteral("Stampa"),
-                            QStringLiteral("Anteprima di stampa"));
+    ToolbarSchede.addButton(u"stampa"_s, u"Stampa"_s, u"Anteprima di stampa"_s);
     ToolbarSchede.addSeparator();
-    ToolbarSchede.addButton(QStringLiteral("fine"), QStringLiteral("Fine"),
-                            QStringLiteral("Esce dall'inserimento/modifica Schede"));
+    ToolbarSchede.addButton(u"fine"_s, u"Fine"_s, u"Esce dall'inserimento/modifica Schede"_s);
     connect(&ToolbarSchede, &toolkit::Toolbar::buttonClick, this, &mdiScheda::premuto);
     addTopBar(&ToolbarSchede);
-    StatusBar1.addPanel(QStringLiteral("status"));
-    StatusBar1.addPanel(QStringLiteral("date2"), 1050, Qt::AlignRight);
+    StatusBar1.addPanel(u"status"_s);
+    StatusBar1.addPanel(u"date2"_s, 1050, Qt::AlignRight);
     addBottomBar(&StatusBar1);
 }
 
@@ -72,41 +71,37 @@ void mdiScheda::onLoad() {
 void mdiScheda::caricaImmagini() {
     ImageList1.clear();
     ImageList1.setImageSize(latoCartella);
-    ImageList1.add(cartella, host::joined(QStringLiteral("\\images\\FolderXP.JPG")));
+    ImageList1.add(cartella, host::joined(u"\\images\\FolderXP.JPG"_s));
     ImageList2.clear();
     ImageList2.setImageSize(latoFigura);
-    store::Recordset righe = db::comune().getRs(QStringLiteral("SELECT ID_FIG from figure"));
+    store::Recordset righe = db::comune().getRs(u"SELECT ID_FIG from figure"_s);
     finestre::avanzamentoMassimo(runtime::toInt16(righe.RecordCount() + 1));
     for (; !righe.EOF_(); righe.MoveNext()) {
         ::figura f;
         f.carica(righe(u"ID_FIG").toInt32());
-        if (!ImageList2.contains(f.figura_())) { // two figures may share a file
+        if (!ImageList2.contains(f.figura_())) // two figures may share a file
             ImageList2.add(f.figura_(), f.figura_());
-        }
         finestre::avanzamentoPasso();
     }
 }
 
 void mdiScheda::mostra() {
     ToolbarSchede.setVisible(true);
-    if (idUtenteSelezionato != 0) {
+    if (idUtenteSelezionato != 0)
         utente->carica(idUtenteSelezionato);
-    }
     schedaAperta.reset();
     ToolbarSchede.setButtonEnabled(pulsanteSalva, true);
     creaScheda();
-    if (schedaAperta->id_scheda != 0) {
+    if (schedaAperta->id_scheda != 0)
         schedaAperta->caricaEsercizi();
-    }
     conta();
     presenta();
 }
 
 void mdiScheda::riapri(const std::shared_ptr<SchedaApribile>& scheda) {
     ToolbarSchede.setVisible(true);
-    if (idUtenteSelezionato != 0) {
+    if (idUtenteSelezionato != 0)
         utente->carica(idUtenteSelezionato);
-    }
     schedaAperta = scheda;
     ToolbarSchede.setButtonEnabled(pulsanteSalva, !schedaAperta->preimpostata);
     try {
@@ -125,7 +120,7 @@ void mdiScheda::conta() {
 }
 
 void mdiScheda::presenta() {
-    StatusBar1.setPanel(QStringLiteral("date2"), runtime::dateText(runtime::today()));
+    StatusBar1.setPanel(u"date2"_s, runtime::dateText(runtime::today()));
     show(); // maximised: the pages are placed by its width
     disponiPagine();
     puoiChiudere = false;
@@ -164,11 +159,10 @@ void mdiScheda::disponiPagine() {
         altezza = pagina.outerHeight();
         pagina.show();
     };
-    if (idUtenteSelezionato != 0) {
+    if (idUtenteSelezionato != 0)
         intestazione(SchedaIntestazione::comune());
-    } else {
+    else
         finestre::disponiIntestazioneModello(intestazione);
-    }
     auto& corpo = SchedaCorpo::comune();
     corpo.load();
     corpo.setLeft(0);
@@ -178,28 +172,25 @@ void mdiScheda::disponiPagine() {
 }
 
 void mdiScheda::premuto(const QString& chiave) {
-    if (!schedaAperta) {
+    if (!schedaAperta)
         runtime::raise(runtime::ObjectNotSet);
-    }
-    if (!schedaAperta->isModello) {
+    if (!schedaAperta->isModello)
         SchedaIntestazione::comune().nascondiTutto();
-    }
     SchedaCorpo::comune().ScriviDati();
     const QString comando = chiave.toLower();
-    if (comando == u"salva") {
+    if (comando == u"salva")
         salva();
-    } else if (comando == u"salvasumodello") {
+    else if (comando == u"salvasumodello")
         salvaSuModello();
-    } else if (comando == u"stampa") {
+    else if (comando == u"stampa")
         stampa();
-    } else if (comando == u"fine") {
+    else if (comando == u"fine")
         fine();
-    }
 }
 
 void mdiScheda::salva() {
     schedaAperta->save();
-    informa(QStringLiteral("Salvataggio effettuato"));
+    informa(u"Salvataggio effettuato"_s);
 }
 
 void mdiScheda::stampa() {
@@ -221,21 +212,19 @@ void mdiScheda::salvaSuModello() {
     const auto modello = std::make_shared<SchedaModello>();
     modello->carica(idModelloSelezionato); // whatever the dialog did
     salvaComeModello(*schedaAperta, *modello);
-    if (schedaAperta->isModello) {
+    if (schedaAperta->isModello)
         apriModello(modello);
-    } else {
-        informa(QStringLiteral("Creata la nuova Scheda Modello '%1'").arg(modello->descrizione));
-    }
+    else
+        informa(u"Creata la nuova Scheda Modello '%1'"_s.arg(modello->descrizione));
     nomeModelloSelezionato.clear();
     idModelloSelezionato = 0;
 }
 
 void mdiScheda::apriModello(const std::shared_ptr<SchedaModello>& modello) {
     if (!schedaAperta->preimpostata &&
-        host::ask(QStringLiteral("Salvare le modifiche al modello precedente?"), host::Icon::Information,
-                  host::Buttons::YesNo) == host::Answer::Yes) {
+        host::ask(u"Salvare le modifiche al modello precedente?"_s, host::Icon::Information,
+                  host::Buttons::YesNo) == host::Answer::Yes)
         schedaAperta->save();
-    }
     schedaAperta = modello; // the counter keeps the template that it was given
     puoiChiudere = true;
     finestre::scaricaIntestazioneModello();
@@ -243,7 +232,7 @@ void mdiScheda::apriModello(const std::shared_ptr<SchedaModello>& modello) {
     puoiChiudere = false;
     disponiPagine();
     ToolbarSchede.setButtonEnabled(pulsanteSalva, !schedaAperta->preimpostata);
-    informa(QStringLiteral("Creata e aperta la nuova Scheda Modello '%1'").arg(modello->descrizione));
+    informa(u"Creata e aperta la nuova Scheda Modello '%1'"_s.arg(modello->descrizione));
 }
 
 void mdiScheda::fine() {
@@ -253,8 +242,7 @@ void mdiScheda::fine() {
         unload(); // the globals keep their values here
         return;
     }
-    switch (host::ask(QStringLiteral("Salvo le ultime modifiche?"), host::Icon::Information,
-                      host::Buttons::YesNoCancel)) {
+    switch (host::ask(u"Salvo le ultime modifiche?"_s, host::Icon::Information, host::Buttons::YesNoCancel)) {
     case host::Answer::Yes:
         puoiChiudere = true;
         schedaAperta->save();
@@ -277,9 +265,8 @@ void mdiScheda::abbandona() {
 }
 
 bool mdiScheda::onQueryUnload() {
-    if (inChiusura) {
+    if (inChiusura)
         return true;
-    }
     hide();
     finestre::mostraPrincipale();
     return false;

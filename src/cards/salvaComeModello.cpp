@@ -12,9 +12,8 @@ namespace {
 class RigheProprie {
 public:
     explicit RigheProprie(SchedaApribile& aperta) : esercizi_(aperta.esercizi) {
-        for (const auto& riga : *esercizi_) {
+        for (const auto& riga : *esercizi_)
             righe_.push_back({riga, riga->ct, riga->nprog, riga->id_scheda, riga->isModello});
-        }
     }
 
     RigheProprie(const RigheProprie&) = delete;
@@ -33,9 +32,8 @@ public:
     /// A card pours by sharing its collection: the copies behind its own lines still carry keys of the cards'
     /// table, and stored as a template's they would rewrite rows of other templates.
     void togliCopie(SchedaApribile::Esercizi& esercizi) const {
-        while (esercizi.Count() > static_cast<int>(righe_.size())) {
+        while (esercizi.Count() > static_cast<int>(righe_.size()))
             esercizi.Remove(esercizi.Count());
-        }
     }
 
 private:

@@ -64,9 +64,9 @@ void scheda::caricaEsercizi() {
 }
 
 QString scheda::inserimento() const {
-    return QStringLiteral("INSERT INTO schede (id_utente,istruttore,periododal,periodoal, "
-                          "id_cat,freqAllen,GGAllen,obiettivo,[note]) "
-                          "VALUES ('") +
+    return u"INSERT INTO schede (id_utente,istruttore,periododal,periodoal, "
+           "id_cat,freqAllen,GGAllen,obiettivo,[note]) "
+           "VALUES ('"_s +
            QString::number(id_utente) + u"','"_s + Istruttore + u"',"_s + db::dataPerSQL(PeriodoDal) + u',' +
            db::dataPerSQL(PeriodoAl) + u',' + QString::number(id_cat) + u',' + QString::number(FreqAllen) +
            u",'"_s + GGAllen + u"','"_s + Obiettivo + u"','"_s + db::correctApici(note) + u"')"_s;

@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool nothingVisible() {
@@ -34,18 +36,16 @@ bool nothingVisible() {
 class EndOfProgram : public QObject {
 public:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Hide && watched->isWidgetType()) {
+        if (event->type() == QEvent::Hide && watched->isWidgetType())
             startTimer(0); // the handler that hides one window may be about to show another
-        }
         return QObject::eventFilter(watched, event);
     }
 
 protected:
     void timerEvent(QTimerEvent* event) override {
         killTimer(event->timerId());
-        if (nothingVisible()) {
+        if (nothingVisible())
             QCoreApplication::quit();
-        }
     }
 };
 
@@ -65,9 +65,8 @@ void raiseWindow() {
 
 /// Puts the user's data folder in the place of an installed program's own; false if it cannot be made.
 bool chooseProgramDirectory(bool installed) {
-    if (!installed) {
+    if (!installed)
         return true;
-    }
     const QString folder = host::installed::dataFolder();
     host::setProgramDirectory(folder);
     return host::installed::makeFolder(folder);
@@ -82,14 +81,13 @@ bool prepareDataFolder() {
     case Outcome::Ready:
         break;
     case Outcome::NotRenewed:
-        host::message(
-            QStringLiteral("Figure e catalogo sono rimasti quelli della versione precedente: i dati "
-                           "non sono cambiati e si può lavorare.\n\n") +
-                result.reason,
-            host::Icon::Exclamation);
+        host::message(u"Figure e catalogo sono rimasti quelli della versione precedente: i dati "
+                      "non sono cambiati e si può lavorare.\n\n"_s +
+                          result.reason,
+                      host::Icon::Exclamation);
         break;
     case Outcome::NotFilled:
-        host::message(QStringLiteral("La cartella dei dati non può essere preparata.\n\n") + result.reason,
+        host::message(u"La cartella dei dati non può essere preparata.\n\n"_s + result.reason,
                       host::Icon::Critical);
         return false;
     }
@@ -102,7 +100,7 @@ int avvia(int& argc, char** argv) {
     toolkit::Application::prepareScale(argc, argv);
     toolkit::Application application(argc, argv);
 
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.Quiverdeck"));
+    QGuiApplication::setDesktopFileName(u"org.example.Quiverdeck"_s);
     QApplication::setWindowIcon(artwork::iconaProgramma());
 
     toolkit::MessageBoxes boxes;
@@ -119,38 +117,31 @@ int avvia(int& argc, char** argv) {
 
     const bool installed = host::installed::isInstalled(QCoreApplication::applicationDirPath());
     if (!chooseProgramDirectory(installed)) {
-        host::message(QStringLiteral("La cartella dei dati non può essere creata:\n") +
-                          host::programDirectory(),
+        host::message(u"La cartella dei dati non può essere creata:\n"_s + host::programDirectory(),
                       host::Icon::Critical);
         return EXIT_FAILURE;
     }
     const host::SingleInstance instance(host::programDirectory());
     if (!instance.isFirst()) {
-        if (!instance.askToRaise()) {
-            host::message(QStringLiteral("Il programma è già aperto, ma per ora non risponde."),
-                          host::Icon::Exclamation);
-        }
+        if (!instance.askToRaise())
+            host::message(u"Il programma è già aperto, ma per ora non risponde."_s, host::Icon::Exclamation);
         return EXIT_SUCCESS;
     }
     QObject::connect(&instance, &host::SingleInstance::raiseRequested, &application, raiseWindow);
     // Before anything is written: a catalogue of ours is none for a newer store.
-    if (CopieArchivio::troppoRecente()) {
+    if (CopieArchivio::troppoRecente())
         return EXIT_FAILURE;
-    }
     // Only now: a program that runs already has the store open.
-    if (installed && !prepareDataFolder()) {
+    if (installed && !prepareDataFolder())
         return EXIT_FAILURE;
-    }
 
     CopieArchivio copie;
     Main();
     const bool started = Principale::esiste() && Principale::comune().isVisible();
-    if (!started) {
+    if (!started)
         copie.proponi(); // right behind the error's own box
-    }
-    if (nothingVisible()) {
+    if (nothingVisible())
         return EXIT_FAILURE;
-    }
     EndOfProgram end;
     application.installEventFilter(&end);
     RipresaScheda ripresa;

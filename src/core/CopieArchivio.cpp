@@ -33,9 +33,8 @@ QString domanda(const store::Backups::Copy& copia) {
 CopieArchivio::CopieArchivio() : copie_(archivio(), cartella()) {}
 
 bool CopieArchivio::troppoRecente() {
-    if (store::schemaOf(archivio()).value_or(0) <= store::schemaVersion) {
+    if (store::schemaOf(archivio()).value_or(0) <= store::schemaVersion)
         return false;
-    }
     host::message(
         u"L’archivio «%1» è stato creato da una versione più recente del programma e questa non può "
         "aprirlo senza rischi. Aggiornare il programma; l’archivio non è stato toccato."_s.arg(
@@ -46,17 +45,15 @@ bool CopieArchivio::troppoRecente() {
 
 void CopieArchivio::copia() {
     const QString programma = QCoreApplication::applicationDirPath() + u"/quiverdeck-backup"_s;
-    if (!QFileInfo(programma).isExecutable()) {
+    if (!QFileInfo(programma).isExecutable())
         return;
-    }
     // Deletes itself when it has ended. Ending this program first leaves the copy to end by itself.
     auto* processo = new QProcess; // NOLINT(cppcoreguidelines-owning-memory)
     QObject::connect(processo, &QProcess::finished, processo,
                      [this, processo](int codice, QProcess::ExitStatus stato) {
                          processo->deleteLater();
-                         if (stato == QProcess::NormalExit) {
+                         if (stato == QProcess::NormalExit)
                              finita(codice);
-                         }
                      });
     QObject::connect(processo, &QProcess::errorOccurred, processo, [processo](QProcess::ProcessError errore) {
         if (errore == QProcess::FailedToStart) {
@@ -86,14 +83,12 @@ void CopieArchivio::finita(int esito) const {
 }
 
 void CopieArchivio::proponi() const {
-    if (store::conditionOf(archivio()) != store::Condition::Damaged) {
+    if (store::conditionOf(archivio()) != store::Condition::Damaged)
         return;
-    }
     const auto copia = copie_.newestGood();
     if (!copia ||
-        host::ask(domanda(*copia), host::Icon::Exclamation, host::Buttons::YesNo) != host::Answer::Yes) {
+        host::ask(domanda(*copia), host::Icon::Exclamation, host::Buttons::YesNo) != host::Answer::Yes)
         return;
-    }
     const auto daParte = copie_.restore(*copia);
     if (!daParte) {
         host::message(

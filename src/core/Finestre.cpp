@@ -25,9 +25,8 @@ void nascondiPrincipale() {
 }
 
 void chiudiGuida() {
-    if (FinestraGuida::esiste()) {
+    if (FinestraGuida::esiste())
         FinestraGuida::comune().unload();
-    }
 }
 
 void mostraModelli() {
@@ -55,9 +54,8 @@ void mostraScheda() {
 }
 
 void scaricaScheda() {
-    if (mdiScheda::esiste()) {
+    if (mdiScheda::esiste())
         mdiScheda::comune().unload();
-    }
 }
 
 void avanzamentoMassimo(qint16 massimo) {
@@ -92,9 +90,8 @@ void disponiIntestazioneModello(const std::function<void(toolkit::Form&)>& dispo
 }
 
 void scaricaIntestazioneModello() {
-    if (SchedaIntestazioneMODELLO::esiste()) {
+    if (SchedaIntestazioneMODELLO::esiste())
         SchedaIntestazioneMODELLO::comune().unload();
-    }
 }
 
 void mostraAnteprima() {

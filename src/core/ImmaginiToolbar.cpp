@@ -5,11 +5,9 @@
 #include "platform/toolkit/Toolbar.h"
 
 void vestiToolbar(toolkit::Toolbar& toolbar, toolkit::ImageList& immagini, const QString& finestra) {
-    for (int position = 1; position <= toolbar.count(); ++position) {
-        if (!toolbar.isSeparator(position)) {
+    for (int position = 1; position <= toolbar.count(); ++position)
+        if (!toolbar.isSeparator(position))
             immagini.add(toolbar.key(position), artwork::icona(finestra, toolbar.key(position)));
-        }
-    }
     toolbar.setImageList(&immagini);
     toolkit::assegnaImmaginiToolbar(toolbar);
 }

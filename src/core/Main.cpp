@@ -13,6 +13,8 @@
 #include "platform/host/Services.h"
 #include "platform/runtime/Error.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void avviaFinestre() {
@@ -36,7 +38,7 @@ void Main() {
         variabiliGlobali::inChiusura = false;
         avviaFinestre();
         // Here on purpose: the line marks the end of the start, not of the program.
-        Logger::comune().log(QStringLiteral(" **** Application END"));
+        Logger::comune().log(u" **** Application END"_s);
     } catch (const runtime::Error& error) {
         host::message(error.description() + error.source());
     } catch (const std::exception& error) {

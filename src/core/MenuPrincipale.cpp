@@ -5,6 +5,8 @@
 
 #include <QMenu>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One row of the menu tree: a top menu, a bar item (no text), an item, or a separator.
@@ -45,7 +47,7 @@ constexpr Riga righe[] = {
 } // namespace
 
 MenuPrincipale::MenuPrincipale(QWidget* parent) : QMenuBar(parent) {
-    setObjectName(QStringLiteral("MenuPrincipale"));
+    setObjectName(u"MenuPrincipale"_s);
     setNativeMenuBar(false);
     QMenu* menu = nullptr;
     for (const Riga& riga : righe) {
@@ -86,14 +88,13 @@ void MenuPrincipale::vesti(QWidget& finestra, const toolkit::ImageList& immagini
     for (const Riga& riga : righe) {
         const QString nome = QString::fromUtf8(riga.nome);
         if (riga.specie == Riga::Lato) {
-            const bool mostrato = nome != QStringLiteral("mnuUtentiBar");
+            const bool mostrato = nome != u"mnuUtentiBar"_s;
             OwnMenu::registraMenu(++menu, tinta, mostrato ? lato : StileMenu::Disegno());
             posizione = 0;
         } else if (riga.specie != Riga::Menu) {
             // Kept: these two stay plain items.
-            if (nome != QStringLiteral("sep88") && nome != QStringLiteral("mnuHelpManuale")) {
+            if (nome != u"sep88"_s && nome != u"mnuHelpManuale"_s)
                 OwnMenu::registraVoce(posizione, QString::fromUtf8(riga.immagine));
-            }
             ++posizione;
         }
     }
@@ -109,8 +110,7 @@ void MenuPrincipale::spoglia() {
 
 QAction& MenuPrincipale::voce(const QString& nome) const {
     auto* action = findChild<QAction*>(nome);
-    if (action == nullptr) {
+    if (action == nullptr)
         runtime::raise(runtime::ElementNotFound, {}, nome);
-    }
     return *action;
 }

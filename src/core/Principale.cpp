@@ -19,40 +19,38 @@
 #include <QKeyEvent>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double dimensioneMinima = 7000; // twips; up to here no resizer is made
 
 /// The toolbar's keys, in lower case, and the menu items whose commands they share.
 const std::pair<QString, QString> comandiToolbar[] = {
-    {QStringLiteral("nuova"), QStringLiteral("mnuSchedeNuova")},
-    {QStringLiteral("nuovadamodello"), QStringLiteral("mnuSchedeDaModello")},
-    {QStringLiteral("apri"), QStringLiteral("mnuSchedeApri")},
-    {QStringLiteral("esci"), QStringLiteral("mnuQDKEsci")},
+    {u"nuova"_s, u"mnuSchedeNuova"_s},
+    {u"nuovadamodello"_s, u"mnuSchedeDaModello"_s},
+    {u"apri"_s, u"mnuSchedeApri"_s},
+    {u"esci"_s, u"mnuQDKEsci"_s},
 };
 
 /// The keys of the menus' pictures.
 const QString chiaviMenu[] = {
-    QStringLiteral("lista"), QStringLiteral("esci"),      QStringLiteral("utenti"), QStringLiteral("nuova"),
-    QStringLiteral("apri"),  QStringLiteral("damodello"), QStringLiteral("hint"),   QStringLiteral("info"),
+    u"lista"_s, u"esci"_s, u"utenti"_s, u"nuova"_s, u"apri"_s, u"damodello"_s, u"hint"_s, u"info"_s,
 };
 
 QString comandoDi(const QString& key) {
-    for (const auto& [tasto, nome] : comandiToolbar) {
-        if (key.toLower() == tasto) {
+    for (const auto& [tasto, nome] : comandiToolbar)
+        if (key.toLower() == tasto)
             return nome;
-        }
-    }
     return {};
 }
 
 } // namespace
 
 Principale::Principale()
-    : Form(QStringLiteral("Principale")), menu(this), Toolbar1(QStringLiteral("Toolbar1"), this),
-      ImageList1({24, 24}), logoQD(QStringLiteral("logoQD"), client()),
-      test(QStringLiteral("test"), QStringLiteral("Tests"), client()) {
-    setCaption(QStringLiteral(" Zentara"));
+    : Form(u"Principale"_s), menu(this), Toolbar1(u"Toolbar1"_s, this), ImageList1({24, 24}),
+      logoQD(u"logoQD"_s, client()), test(u"test"_s, u"Tests"_s, client()) {
+    setCaption(u" Zentara"_s);
     setInnerSize(12000, 8000);
     setResizable(true);
     client()->setAutoFillBackground(true);
@@ -60,15 +58,12 @@ Principale::Principale()
 
     addTopBar(&menu);
     addTopBar(&Toolbar1);
-    Toolbar1.addButton(QStringLiteral("nuova"), QStringLiteral("Nuova Scheda"),
-                       QStringLiteral("Crea una nuova Scheda"));
-    Toolbar1.addButton(QStringLiteral("nuovaDaModello"), QStringLiteral("Nuova da Modello"),
-                       QStringLiteral("Crea una nuova scheda a partire da uno dei Modelli già pronti"));
-    Toolbar1.addSeparator(QStringLiteral("sep"));
-    Toolbar1.addButton(QStringLiteral("apri"), QStringLiteral("Apri Scheda"),
-                       QStringLiteral("Apre una scheda in archivio"));
-    Toolbar1.addButton(QStringLiteral("esci"), QStringLiteral("Esci"),
-                       QStringLiteral("Uscita dal programma"));
+    Toolbar1.addButton(u"nuova"_s, u"Nuova Scheda"_s, u"Crea una nuova Scheda"_s);
+    Toolbar1.addButton(u"nuovaDaModello"_s, u"Nuova da Modello"_s,
+                       u"Crea una nuova scheda a partire da uno dei Modelli già pronti"_s);
+    Toolbar1.addSeparator(u"sep"_s);
+    Toolbar1.addButton(u"apri"_s, u"Apri Scheda"_s, u"Apre una scheda in archivio"_s);
+    Toolbar1.addButton(u"esci"_s, u"Esci"_s, u"Uscita dal programma"_s);
 
     toolkit::place(logoQD, 0, 0, 6000, 1800);
     logoQD.setImage(artwork::logo(artwork::Logo::QuiverDeck, {1200, 360}));
@@ -83,11 +78,9 @@ Principale::Principale()
 void Principale::onLoad() {
     vestiToolbar(Toolbar1, ImageList1, objectName());
     setMaximised(true);
-    if (ImageList_OwnerMenu.count() == 0) {
-        for (const QString& chiave : chiaviMenu) {
-            ImageList_OwnerMenu.add(chiave, artwork::icona(QStringLiteral("menu"), chiave));
-        }
-    }
+    if (ImageList_OwnerMenu.count() == 0)
+        for (const QString& chiave : chiaviMenu)
+            ImageList_OwnerMenu.add(chiave, artwork::icona(u"menu"_s, chiave));
     menu.vesti(*this, ImageList_OwnerMenu,
                [](const QSize& pixels) { return artwork::logo(artwork::Logo::BarraMenu, pixels); });
 }
@@ -133,24 +126,21 @@ void Principale::mostra() {
 
 void Principale::comando(const QString& nome) {
     static const std::pair<QString, void (*)(Principale&)> comandi[] = {
-        {QStringLiteral("mnuQDKPersonalizza"), [](Principale&) { finestre::mostraPalestra(); }},
-        {QStringLiteral("mnuQDKEsci"), [](Principale& finestra) { finestra.unload(); }},
-        {QStringLiteral("mnuUtentiGestione"), [](Principale& finestra) { finestra.mnuUtentiGestione(); }},
-        {QStringLiteral("mnuSchedeNuova"), [](Principale& finestra) { finestra.mnuSchedeNuova(); }},
-        {QStringLiteral("mnuSchedeApri"), [](Principale& finestra) { finestra.mnuSchedeApri(); }},
-        {QStringLiteral("mnuSchedeDaModello"), [](Principale& finestra) { finestra.mnuSchedeDaModello(); }},
-        {QStringLiteral("mnuSchedeGestioneModello"),
-         [](Principale& finestra) { finestra.mnuSchedeGestioneModello(); }},
-        {QStringLiteral("mnuSchedeCosaNonFare"), [](Principale&) { finestre::mostraAvvertenze(); }},
-        {QStringLiteral("mnuHelpHelp"), [](Principale& finestra) { finestra.mnuHelpHelp(); }},
-        {QStringLiteral("mnuHelpManuale"), [](Principale& finestra) { finestra.mnuHelpManuale(); }},
-        {QStringLiteral("mnuHelpAbout"), [](Principale&) { finestre::mostraInformazioni(); }},
+        {u"mnuQDKPersonalizza"_s, [](Principale&) { finestre::mostraPalestra(); }},
+        {u"mnuQDKEsci"_s, [](Principale& finestra) { finestra.unload(); }},
+        {u"mnuUtentiGestione"_s, [](Principale& finestra) { finestra.mnuUtentiGestione(); }},
+        {u"mnuSchedeNuova"_s, [](Principale& finestra) { finestra.mnuSchedeNuova(); }},
+        {u"mnuSchedeApri"_s, [](Principale& finestra) { finestra.mnuSchedeApri(); }},
+        {u"mnuSchedeDaModello"_s, [](Principale& finestra) { finestra.mnuSchedeDaModello(); }},
+        {u"mnuSchedeGestioneModello"_s, [](Principale& finestra) { finestra.mnuSchedeGestioneModello(); }},
+        {u"mnuSchedeCosaNonFare"_s, [](Principale&) { finestre::mostraAvvertenze(); }},
+        {u"mnuHelpHelp"_s, [](Principale& finestra) { finestra.mnuHelpHelp(); }},
+        {u"mnuHelpManuale"_s, [](Principale& finestra) { finestra.mnuHelpManuale(); }},
+        {u"mnuHelpAbout"_s, [](Principale&) { finestre::mostraInformazioni(); }},
     };
-    for (const auto& [comandoNoto, esegui] : comandi) {
-        if (nome == comandoNoto) {
+    for (const auto& [comandoNoto, esegui] : comandi)
+        if (nome == comandoNoto)
             esegui(*this);
-        }
-    }
 }
 
 void Principale::Toolbar1_ButtonClick(const QString& key) {
@@ -166,14 +156,14 @@ void Principale::azzeraScelte() {
 
 void Principale::mnuUtentiGestione() {
     UtentiSelezione& elenco = UtentiSelezione::comune();
-    elenco.Tag = QStringLiteral("MODIFICA");
+    elenco.Tag = u"MODIFICA"_s;
     elenco.load();
     elenco.showModal();
 }
 
 bool Principale::selezionaUtente() {
     UtentiSelezione& elenco = UtentiSelezione::comune();
-    elenco.Tag = QStringLiteral("SELEZIONA");
+    elenco.Tag = u"SELEZIONA"_s;
     elenco.load();
     elenco.showModal();
     return variabiliGlobali::idUtenteSelezionato != 0;
@@ -185,40 +175,34 @@ void Principale::apriScheda() {
 }
 
 void Principale::mnuSchedeNuova() {
-    if (selezionaUtente()) {
+    if (selezionaUtente())
         apriScheda();
-    }
 }
 
 void Principale::mnuSchedeApri() {
-    if (!selezionaUtente()) {
+    if (!selezionaUtente())
         return;
-    }
     SchedeSelezione& elenco = SchedeSelezione::comune();
     elenco.idUtenteLista = variabiliGlobali::idUtenteSelezionato;
     elenco.fillList();
     elenco.showModal();
-    if (variabiliGlobali::idSchedaSelezionata != 0) {
+    if (variabiliGlobali::idSchedaSelezionata != 0)
         apriScheda();
-    }
 }
 
 void Principale::mnuSchedeDaModello() {
-    if (!selezionaUtente()) {
+    if (!selezionaUtente())
         return;
-    }
     finestre::mostraModelli();
-    if (variabiliGlobali::idModelloSelezionato > 0) {
+    if (variabiliGlobali::idModelloSelezionato > 0)
         apriScheda();
-    }
 }
 
 void Principale::mnuSchedeGestioneModello() {
     azzeraScelte();
     finestre::mostraModelli();
-    if (variabiliGlobali::idModelloSelezionato > 0) {
+    if (variabiliGlobali::idModelloSelezionato > 0)
         apriScheda();
-    }
 }
 
 void Principale::mnuHelpHelp() {
@@ -229,6 +213,6 @@ void Principale::mnuHelpHelp() {
 
 void Principale::mnuHelpManuale() {
     // A missing row gives its "ERR:" text here: the start then fails, as for a missing launcher.
-    const QString percorso = db::comune().Load_Param(QStringLiteral("PATH_MANUALE"));
+    const QString percorso = db::comune().Load_Param(u"PATH_MANUALE"_s);
     host::startProcess(host::resolve(host::joined(percorso)), {host::programDirectory()});
 }

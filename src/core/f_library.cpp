@@ -5,19 +5,20 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 bool nonInLista(const host::ItemList& combo) {
     const QString testo = combo.text();
-    for (int i = 0; i < combo.count(); ++i) {
+    for (int i = 0; i < combo.count(); ++i)
         if (combo.item(i) == testo)
             return false;
-    }
     return true;
 }
 
 bool valoreInLista(const host::ItemList& combo) {
     if (!nonInLista(combo))
         return true;
-    host::message(QStringLiteral("Selezionare un valore tra quelli disponibili!"), host::Icon::Critical);
+    host::message(u"Selezionare un valore tra quelli disponibili!"_s, host::Icon::Critical);
     return false;
 }
 

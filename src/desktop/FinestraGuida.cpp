@@ -66,9 +66,8 @@ FinestraGuida::FinestraGuida()
     connect(&Toolbar, &toolkit::Toolbar::buttonClick, this, &FinestraGuida::Toolbar_ButtonClick);
     connect(&cerca, &toolkit::TextBox::changed, this, &FinestraGuida::cercaNellaGuida);
     connect(&indice, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* voce) {
-        if (voce != nullptr && !voce->data(0, ruoloId).toString().isEmpty()) {
+        if (voce != nullptr && !voce->data(0, ruoloId).toString().isEmpty())
             apri(voce->data(0, ruoloId).toString());
-        }
     });
     connect(&testo, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) {
         if (url.scheme().isEmpty()) {
@@ -114,9 +113,8 @@ void FinestraGuida::onResize() {
 
 void FinestraGuida::changeEvent(QEvent* event) {
     Form::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && posto != nessuna) {
+    if (event->type() == QEvent::PaletteChange && posto != nessuna)
         mostraCorrente();
-    }
 }
 
 QString FinestraGuida::pagina() const {
@@ -127,9 +125,8 @@ void FinestraGuida::apri(const QString& id) {
     const bool nota =
         std::any_of(pagine.begin(), pagine.end(), [&id](const PaginaGuida& una) { return una.id == id; });
     const QString voluta = nota ? id : pagine.front().id;
-    if (voluta == pagina()) {
+    if (voluta == pagina())
         return;
-    }
     strada = strada.first(posto + 1);
     strada.append(voluta);
     posto = strada.size() - 1;
@@ -154,9 +151,8 @@ void FinestraGuida::mostraCorrente() {
     const auto una =
         std::find_if(pagine.begin(), pagine.end(), [this](const PaginaGuida& p) { return p.id == pagina(); });
     testo.setHtml(una->html);
-    if (!cerca.text().trimmed().isEmpty()) {
+    if (!cerca.text().trimmed().isEmpty())
         testo.find(cerca.text().trimmed().section(u' ', 0, 0));
-    }
     Toolbar.setButtonEnabled(u"indietro"_s, posto > 0);
     Toolbar.setButtonEnabled(u"avanti"_s, posto + 1 < strada.size());
     const QSignalBlocker zitto(&indice);
@@ -175,9 +171,8 @@ void FinestraGuida::riempiIndice() {
     indice.clear();
     QTreeWidgetItem* capitolo = nullptr;
     for (const PaginaGuida& una : pagine) {
-        if (!parole.isEmpty() && !una.contiene(parole)) {
+        if (!parole.isEmpty() && !una.contiene(parole))
             continue;
-        }
         if (capitolo == nullptr || capitolo->text(0) != una.capitolo) {
             capitolo = new QTreeWidgetItem(&indice, {una.capitolo});
             capitolo->setFlags(Qt::ItemIsEnabled);
@@ -198,17 +193,15 @@ void FinestraGuida::riempiIndice() {
 
 void FinestraGuida::cercaNellaGuida() {
     riempiIndice();
-    if (posto != nessuna) {
+    if (posto != nessuna)
         mostraCorrente();
-    }
 }
 
 void FinestraGuida::Toolbar_ButtonClick(const QString& key) {
-    if (key == u"indietro"_s) {
+    if (key == u"indietro"_s)
         indietro();
-    } else if (key == u"avanti"_s) {
+    else if (key == u"avanti"_s)
         avanti();
-    } else {
+    else
         apri(pagine.front().id);
-    }
 }

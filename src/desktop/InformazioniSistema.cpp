@@ -6,6 +6,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 InformazioniSistema::Registro& registroInUso() {
@@ -27,13 +29,12 @@ void InformazioniSistema::setRegistro(Registro registro) {
 
 void InformazioniSistema::StartSysInfo() {
     QString percorso;
-    if (!GetKeyValue(QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"), QStringLiteral("PATH"),
-                     percorso)) {
-        const bool trovato = GetKeyValue(QStringLiteral("SOFTWARE\\Microsoft\\Shared Tools Location"),
-                                         QStringLiteral("MSINFO"), percorso);
-        percorso += QStringLiteral("\\MSINFO32.EXE");
+    if (!GetKeyValue(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"_s, u"PATH"_s, percorso)) {
+        const bool trovato =
+            GetKeyValue(u"SOFTWARE\\Microsoft\\Shared Tools Location"_s, u"MSINFO"_s, percorso);
+        percorso += u"\\MSINFO32.EXE"_s;
         if (!trovato || !QFileInfo::exists(host::resolve(percorso))) {
-            host::message(QStringLiteral("Le informazioni sul sistema non sono attualmente disponibili."));
+            host::message(u"Le informazioni sul sistema non sono attualmente disponibili."_s);
             return;
         }
     }

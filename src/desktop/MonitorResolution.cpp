@@ -4,9 +4,8 @@
 
 void MonitorResolution::leggiRisoluzione(ModoVideo& modo) const {
     host::DisplayMode presente;
-    if (!host::display().read(presente)) {
+    if (!host::display().read(presente))
         presente = {};
-    }
     modo = {presente.width, presente.height, presente.bits};
 }
 

@@ -38,19 +38,16 @@ const QHash<QString, QString>& pagine() {
 /// Lower case, without accents, with straight apostrophes.
 QString semplice(const QString& testo) {
     QString risultato;
-    for (const QChar c : testo.normalized(QString::NormalizationForm_D)) {
-        if (c.category() != QChar::Mark_NonSpacing) {
+    for (const QChar c : testo.normalized(QString::NormalizationForm_D))
+        if (c.category() != QChar::Mark_NonSpacing)
             risultato.append(c == u'’' ? QChar(u'\'') : c.toLower());
-        }
-    }
     return risultato;
 }
 
 /// What follows `segno` up to the comment's end, if the line is such a comment.
 bool commento(const QString& riga, const QString& segno, QString& contenuto) {
-    if (!riga.startsWith(segno) || !riga.endsWith(u"-->"_s)) {
+    if (!riga.startsWith(segno) || !riga.endsWith(u"-->"_s))
         return false;
-    }
     contenuto = riga.mid(segno.size()).chopped(3);
     return true;
 }
@@ -71,21 +68,18 @@ std::vector<PaginaGuida> leggiPagineGuida(const QString& file) {
         QString capitolo;
         QString contenuto;
         const QStringList righe = QString::fromUtf8(origine.readAll()).split(u'\n');
-        for (const QString& riga : righe) {
-            if (commento(riga, u"<!--capitolo "_s, contenuto)) {
+        for (const QString& riga : righe)
+            if (commento(riga, u"<!--capitolo "_s, contenuto))
                 capitolo = contenuto;
-            } else if (commento(riga, u"<!--pagina "_s, contenuto)) {
+            else if (commento(riga, u"<!--pagina "_s, contenuto))
                 lette.push_back({contenuto.section(u'|', 0, 0), contenuto.section(u'|', 1), capitolo, {}});
-            } else if (riga == u"<!--fine-->"_s) {
+            else if (riga == u"<!--fine-->"_s)
                 break;
-            } else if (!lette.empty()) {
+            else if (!lette.empty())
                 lette.back().html += riga + u'\n';
-            }
-        }
     }
-    if (lette.empty()) {
+    if (lette.empty())
         runtime::raise(runtime::FileNotFound, u"La guida non si trova o non è leggibile: "_s + file);
-    }
     return lette;
 }
 

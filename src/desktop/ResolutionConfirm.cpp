@@ -4,6 +4,8 @@
 #include "platform/toolkit/Fonts.h"
 #include "platform/toolkit/Twips.h"
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 namespace {
@@ -14,24 +16,21 @@ constexpr int intervallo = 1000; // milliseconds
 } // namespace
 
 ResolutionConfirm::ResolutionConfirm()
-    : Form(QStringLiteral("ResolutionConfirm")),
-      Label2(
-          QStringLiteral("Label2"),
-          QStringLiteral("Se riuscite a leggere queste scritte il cambio risoluzione è andato a buon fine. "
-                         "Premere OK prima che scada il tempo"),
-          client()),
-      Label1(QStringLiteral("Label1"), QStringLiteral("Secondi rimasti ... "), client()),
-      lblSec(QStringLiteral("lblSec"), {}, client()),
-      OKButton(QStringLiteral("OKButton"), QStringLiteral("OK"), client()),
-      CancelButton(QStringLiteral("CancelButton"), QStringLiteral("Annulla"), client()) {
-    setCaption(QStringLiteral("Conferma Cambio Risoluzione"));
+    : Form(u"ResolutionConfirm"_s),
+      Label2(u"Label2"_s,
+             u"Se riuscite a leggere queste scritte il cambio risoluzione è andato a buon fine. "
+             "Premere OK prima che scada il tempo"_s,
+             client()),
+      Label1(u"Label1"_s, u"Secondi rimasti ... "_s, client()), lblSec(u"lblSec"_s, {}, client()),
+      OKButton(u"OKButton"_s, u"OK"_s, client()), CancelButton(u"CancelButton"_s, u"Annulla"_s, client()) {
+    setCaption(u"Conferma Cambio Risoluzione"_s);
     setInnerSize(5700, 1980);
 
-    Label2.setFont(toolkit::font(QStringLiteral("Verdana"), 9.75));
+    Label2.setFont(toolkit::font(u"Verdana"_s, 9.75));
     Label2.setWordWrap(true);
     place(Label2, 240, 225, 5220, 780);
     place(Label1, 240, 1500, 1290, 225);
-    lblSec.setFont(toolkit::font(QStringLiteral("MS Sans Serif"), 8.25, true));
+    lblSec.setFont(toolkit::font(u"MS Sans Serif"_s, 8.25, true));
     place(lblSec, 1560, 1500, 450, 225);
 
     place(OKButton, 2910, 1410, 1215, 375);
@@ -39,7 +38,7 @@ ResolutionConfirm::ResolutionConfirm()
     connect(&OKButton, &toolkit::Button::clicked, this, [this] { rispondi(1); });
     connect(&CancelButton, &toolkit::Button::clicked, this, [this] { rispondi(2); });
 
-    Timer.setObjectName(QStringLiteral("Timer"));
+    Timer.setObjectName(u"Timer"_s);
     Timer.setParent(this);
     Timer.setInterval(intervallo);
     connect(&Timer, &QTimer::timeout, this, &ResolutionConfirm::tick);
@@ -60,11 +59,10 @@ void ResolutionConfirm::setSecondi(int n) {
 }
 
 void ResolutionConfirm::tick() {
-    if (secondi > 0) {
+    if (secondi > 0)
         setSecondi(secondi - 1);
-    } else {
+    else
         rispondi(2); // the seventeenth tick: a little more than the promised time, as it shall be
-    }
 }
 
 void ResolutionConfirm::rispondi(qint16 risposta) {

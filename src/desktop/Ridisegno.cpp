@@ -7,9 +7,8 @@
 namespace desktop {
 
 void ridisegna(QWidget& widget) {
-    if (!widget.isVisible()) {
+    if (!widget.isVisible())
         return;
-    }
     widget.repaint();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }

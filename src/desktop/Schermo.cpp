@@ -11,9 +11,8 @@ namespace {
 
 bool readFromToolkit(host::DisplayMode& mode) {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    if (screen == nullptr) {
+    if (screen == nullptr)
         return false;
-    }
     const QSizeF real = QSizeF(screen->size()) * screen->devicePixelRatio();
     mode.width = qRound(real.width());
     mode.height = qRound(real.height());
@@ -32,9 +31,8 @@ bool isX11() {
 
 bool Schermo::read(host::DisplayMode& mode) {
 #ifdef QUIVERDECK_RANDR
-    if (isX11() && RandR().read(mode)) {
+    if (isX11() && RandR().read(mode))
         return true;
-    }
 #endif
     return readFromToolkit(mode);
 }

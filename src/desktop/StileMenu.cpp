@@ -22,9 +22,8 @@ QColor miscela(const QColor& primo, const QColor& secondo, double parte) {
 }
 
 QFont variante(QFont font, bool grassetto, bool sottolineato) {
-    if (grassetto) {
+    if (grassetto)
         font.setWeight(static_cast<QFont::Weight>(std::min(font.weight() + pesoInPiu, 1000)));
-    }
     font.setUnderline(sottolineato);
     return font;
 }
@@ -89,12 +88,10 @@ int StileMenu::pixelMetric(PixelMetric metric, const QStyleOption* option, const
 QSize StileMenu::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                                   const QWidget* widget) const {
     const auto* voce = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-    if (type != CT_MenuItem || voce == nullptr) {
+    if (type != CT_MenuItem || voce == nullptr)
         return QuiverStyle::sizeFromContents(type, option, size, widget);
-    }
-    if (voce->menuItemType == QStyleOptionMenuItem::Separator) {
+    if (voce->menuItemType == QStyleOptionMenuItem::Separator)
         return {colonna, altezzaSeparatore};
-    }
     const int vuoto = voce->text.contains(QLatin1Char('\t')) ? larghezzaVuoto() : 0;
     return {colonna + ariaTesto + size.width() + vuoto + ariaDestra, altezzaVoce()};
 }
@@ -168,9 +165,8 @@ void StileMenu::disegnaVoce(const QStyleOptionMenuItem& voce, QPainter& painter)
 
 void StileMenu::disegnaImmagine(const QStyleOptionMenuItem& voce, const QRect& posto,
                                 QPainter& painter) const {
-    if (voce.icon.isNull()) {
+    if (voce.icon.isNull())
         return;
-    }
     const bool attiva = voce.state & State_Enabled;
     QRect figura(0, 0, immagine, immagine);
     figura.moveCenter(posto.center());

@@ -11,6 +11,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 namespace {
@@ -24,21 +26,20 @@ constexpr int attesaMassima = 200; // milliseconds
 } // namespace
 
 Tool_BarProg::Tool_BarProg()
-    : Form(QStringLiteral("Tool_BarProg")), retStatus(client()),
-      Status(QStringLiteral("Status"), {}, client()) {
-    setCaption(QStringLiteral("  Attendere prego..."));
+    : Form(u"Tool_BarProg"_s), retStatus(client()), Status(u"Status"_s, {}, client()) {
+    setCaption(u"  Attendere prego..."_s);
     setInnerSize(4230, 600);
 
-    retStatus.setObjectName(QStringLiteral("retStatus"));
+    retStatus.setObjectName(u"retStatus"_s);
     retStatus.setAutoFillBackground(true);
     QPalette colours = retStatus.palette();
     colours.setColor(QPalette::Window, QColor(0x80, 0x80, 0xFF));
     retStatus.setPalette(colours);
     place(retStatus, 180, 270, 15, 180);
 
-    Status.setFont(toolkit::font(QStringLiteral("Verdana"), 9.75, true));
+    Status.setFont(toolkit::font(u"Verdana"_s, 9.75, true));
     Status.setAlignment(Qt::AlignCenter);
-    Status.setCaption(QStringLiteral("0 %"));
+    Status.setCaption(u"0 %"_s);
     place(Status, sinistra, alto, larghezza, altezza);
 }
 
@@ -47,8 +48,8 @@ void Tool_BarProg::onLoad() {
     ultimoPasso = 0;
     setPointer(Pointer::Hourglass);
     place(retStatus, sinistra, alto, 0, altezza);
-    Status.setCaption(QStringLiteral("0%"));
-    setTitolo(QStringLiteral("Elaborazione in corso..."));
+    Status.setCaption(u"0%"_s);
+    setTitolo(u"Elaborazione in corso..."_s);
     ridisegna();
 }
 
@@ -61,13 +62,11 @@ void Tool_BarProg::setTitolo(const QString& s) {
 }
 
 void Tool_BarProg::update(float& nPasso) {
-    if (nPasso == 0) {
+    if (nPasso == 0)
         nPasso = ultimoPasso + 1;
-    }
     fatto = nPasso / Totale;
-    if (!(nPasso <= Totale)) {
+    if (!(nPasso <= Totale))
         return;
-    }
     const float p = std::floor(fatto * 100);
     if (p != percentuale) {
         place(retStatus, sinistra, alto, runtime::toInt32(larghezza * double(fatto)), altezza);

@@ -8,6 +8,8 @@
 #include "platform/host/Services.h"
 #include "platform/runtime/Conversions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int offerte = 8;
@@ -16,15 +18,14 @@ constexpr qint32 altezzaConsigliata = 768;
 
 /// Counts this start; false if it is no longer one of the first eight.
 bool contaAvvio() {
-    const QString parametro = QStringLiteral("CAMBIO_RISOLUZIONE");
+    const QString parametro = u"CAMBIO_RISOLUZIONE"_s;
     db& archivio = db::comune();
-    QString valore = QStringLiteral("1");
-    if (archivio.DCount(QStringLiteral("parametro"), QStringLiteral("Parametri"),
-                        QStringLiteral("parametro = '") + parametro + QLatin1Char('\'')) > 0) {
+    QString valore = u"1"_s;
+    if (archivio.DCount(u"parametro"_s, u"Parametri"_s, u"parametro = '"_s + parametro + QLatin1Char('\'')) >
+        0) {
         const double n = runtime::leadingNumber(archivio.Load_Param(parametro)) + 1; // of any size
-        if (n > offerte) {
+        if (n > offerte)
             return false;
-        }
         valore = runtime::numberText(n);
     }
     archivio.Save_Param(parametro, valore);
@@ -32,42 +33,37 @@ bool contaAvvio() {
 }
 
 QString domanda(const QString& dimensioni) {
-    return QStringLiteral("Il programma è stato ottimizzato per risoluzioni video 1024x768 o superiori. "
-                          "(Risoluzione attuale: ") +
+    return u"Il programma è stato ottimizzato per risoluzioni video 1024x768 o superiori. "
+           "(Risoluzione attuale: "_s +
            dimensioni +
-           QStringLiteral(
-               ")\nSe si vuole gestire al meglio il programma si consiglia di cambiare la risoluzione. \n"
-               "Il programma può aggiustarla automaticamente: cambiarla adesso? \n"
-               "(Procedere solo se si è sicuri che il proprio computer supporti tale risoluzione!) ");
+           u")\nSe si vuole gestire al meglio il programma si consiglia di cambiare la risoluzione. \n"
+           "Il programma può aggiustarla automaticamente: cambiarla adesso? \n"
+           "(Procedere solo se si è sicuri che il proprio computer supporti tale risoluzione!) "_s;
 }
 
 } // namespace
 
 void controllaRisoluzione() {
-    if (!contaAvvio()) {
+    if (!contaAvvio())
         return;
-    }
     const MonitorResolution monitor;
     ModoVideo precedente;
     monitor.leggiRisoluzione(precedente);
-    const QString dimensioni = QStringLiteral("%1x%2").arg(precedente.larghezza).arg(precedente.altezza);
-    Logger::comune().log(QStringLiteral("Risoluzione ") + dimensioni);
-    if (precedente.larghezza >= larghezzaMinima) {
+    const QString dimensioni = u"%1x%2"_s.arg(precedente.larghezza).arg(precedente.altezza);
+    Logger::comune().log(u"Risoluzione "_s + dimensioni);
+    if (precedente.larghezza >= larghezzaMinima)
         return;
-    }
-    if (host::ask(domanda(dimensioni), host::Icon::Critical, host::Buttons::YesNo) != host::Answer::Yes) {
+    if (host::ask(domanda(dimensioni), host::Icon::Critical, host::Buttons::YesNo) != host::Answer::Yes)
         return;
-    }
-    host::message(
-        QStringLiteral("Il programma proverà ora a cambiare risoluzione quindi vi chiederà conferma. "
-                       "Se il vostro Computer non supportasse tale risoluzione potrebbe non apparire nulla. "
-                       "In tal caso attendere 15 secondi e verrà reimpostata la risoluzione precedente"),
-        host::Icon::Information);
+    host::message(u"Il programma proverà ora a cambiare risoluzione quindi vi chiederà conferma. "
+                  "Se il vostro Computer non supportasse tale risoluzione potrebbe non apparire nulla. "
+                  "In tal caso attendere 15 secondi e verrà reimpostata la risoluzione precedente"_s,
+                  host::Icon::Information);
     // A refused mode is not told apart: the confirmation then comes up on the old one.
     monitor.impostaRisoluzione({larghezzaMinima, altezzaConsigliata, precedente.bit});
     ResolutionConfirm::comune().showModal();
     if (variabiliGlobali::rispostaRisoluzione == 2) {
         monitor.impostaRisoluzione(precedente);
-        host::message(QStringLiteral("Reimpostata risoluzione precedente"), host::Icon::Information);
+        host::message(u"Reimpostata risoluzione precedente"_s, host::Icon::Information);
     }
 }

@@ -8,17 +8,19 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int PathAccess = 75;
 
 [[noreturn]] void nonCopiato(const QString& destinazione) {
-    runtime::raise(PathAccess, QStringLiteral("Impossibile copiare l’immagine in: %1").arg(destinazione));
+    runtime::raise(PathAccess, u"Impossibile copiare l’immagine in: %1"_s.arg(destinazione));
 }
 
 /// Copies beside the destination first, so that the file of that name is replaced whole or not at all.
 void sostituisci(const QString& origine, const QString& destinazione) {
-    const QString nuovo = destinazione + QStringLiteral(".nuovo");
+    const QString nuovo = destinazione + u".nuovo"_s;
     QFile::remove(nuovo);
     if (QFileInfo(destinazione).isDir() || !QDir().mkpath(QFileInfo(destinazione).path()) ||
         !QFile::copy(origine, nuovo)) {
@@ -40,10 +42,9 @@ QString copiaLogo(const QString& scelto) {
     static_cast<void>(pictures::PictureFile(scelto, pictures::PictureFile::Literal).whole());
     // A backslash would part the stored path.
     const QString nome = QFileInfo(scelto).fileName().replace(QLatin1Char('\\'), QLatin1Char('_'));
-    QString percorso = host::joined(QStringLiteral("\\images\\") + nome);
+    QString percorso = host::joined(u"\\images\\"_s + nome);
     const QString destinazione = host::resolve(percorso);
-    if (QFileInfo(destinazione).canonicalFilePath() != QFileInfo(scelto).canonicalFilePath()) {
+    if (QFileInfo(destinazione).canonicalFilePath() != QFileInfo(scelto).canonicalFilePath())
         sostituisci(scelto, destinazione);
-    }
     return percorso;
 }

@@ -3,13 +3,14 @@
 #include "platform/toolkit/Fonts.h"
 #include "platform/toolkit/Twips.h"
 
-frmDisplay::frmDisplay()
-    : Form(QStringLiteral("frmDisplay")), txtDisplay(QStringLiteral("txtDisplay"), client()) {
-    setCaption(QStringLiteral("Display"));
+using namespace Qt::StringLiterals;
+
+frmDisplay::frmDisplay() : Form(u"frmDisplay"_s), txtDisplay(u"txtDisplay"_s, client()) {
+    setCaption(u"Display"_s);
     setInnerSize(10830, 4770);
     setResizable(true);
-    txtDisplay.setFont(toolkit::font(QStringLiteral("Verdana"), 8.25));
-    txtDisplay.setAccessibleName(QStringLiteral("Testo"));
+    txtDisplay.setFont(toolkit::font(u"Verdana"_s, 8.25));
+    txtDisplay.setAccessibleName(u"Testo"_s);
     connect(&txtDisplay, &toolkit::TextArea::changed, this,
             [this] { txtDisplay.moveCursor(QTextCursor::End); }); // the latest line shows
 }

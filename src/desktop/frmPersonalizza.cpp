@@ -112,9 +112,8 @@ void frmPersonalizza::mostraLogo(const QString& percorso) {
 
 void frmPersonalizza::cmdApriIMG_Click() {
     const QString scelto = host::fileDialogs().openFile(u"File Immagine|*.JPG;*.BMP;*.GIF"_s, {});
-    if (scelto.isEmpty()) {
+    if (scelto.isEmpty())
         return;
-    }
     try {
         const toolkit::Hourglass attesa;
         mostraLogo(copiaLogo(scelto));

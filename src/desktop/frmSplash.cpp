@@ -8,6 +8,8 @@
 
 #include <QKeyEvent>
 
+using namespace Qt::StringLiterals;
+
 using toolkit::place;
 
 namespace {
@@ -21,18 +23,15 @@ void colour(QLabel& label, const QColor& text) {
 } // namespace
 
 frmSplash::frmSplash()
-    : Form(QStringLiteral("frmSplash")), Frame1(QStringLiteral("Frame1"), client()),
-      LogoQDK(QStringLiteral("LogoQDK"), &Frame1), imgLogo(QStringLiteral("imgLogo"), &Frame1),
-      lblProductName(QStringLiteral("lblProductName"), {}, &Frame1),
-      lblVersion(QStringLiteral("lblVersion"), {}, &Frame1),
-      lblWarning(QStringLiteral("lblWarning"),
-                 QStringLiteral(
-                     "Questo programma è protetto dalle leggi sul diritto d’autore; la copia è libera alle "
-                     "condizioni della sua licenza."),
+    : Form(u"frmSplash"_s), Frame1(u"Frame1"_s, client()), LogoQDK(u"LogoQDK"_s, &Frame1),
+      imgLogo(u"imgLogo"_s, &Frame1), lblProductName(u"lblProductName"_s, {}, &Frame1),
+      lblVersion(u"lblVersion"_s, {}, &Frame1),
+      lblWarning(u"lblWarning"_s,
+                 u"Questo programma è protetto dalle leggi sul diritto d’autore; la copia è libera alle "
+                 "condizioni della sua licenza."_s,
                  &Frame1),
-      lblCopyright(QStringLiteral("lblCopyright"), QStringLiteral("© Gli autori di Quiverdeck"), &Frame1),
-      Label1(QStringLiteral("Label1"), QStringLiteral("Attendere prego, caricamento in corso:"), &Frame1),
-      bar(QStringLiteral("bar"), &Frame1) {
+      lblCopyright(u"lblCopyright"_s, u"© Gli autori di Quiverdeck"_s, &Frame1),
+      Label1(u"Label1"_s, u"Attendere prego, caricamento in corso:"_s, &Frame1), bar(u"bar"_s, &Frame1) {
     setBorderless();
     setInnerSize(6705, 3900);
 
@@ -46,17 +45,17 @@ frmSplash::frmSplash()
     place(imgLogo, 4545, 345, 1755, 540);
     imgLogo.setImage(artwork::logo(artwork::Logo::Zentara, {468, 144}));
 
-    lblProductName.setFont(toolkit::font(QStringLiteral("Arial"), 24, true));
+    lblProductName.setFont(toolkit::font(u"Arial"_s, 24, true));
     place(lblProductName, 1350, 1125, 4800, 570);
-    lblVersion.setFont(toolkit::font(QStringLiteral("Arial"), 9.75));
+    lblVersion.setFont(toolkit::font(u"Arial"_s, 9.75));
     colour(lblVersion, QColor(0x80, 0x80, 0xFF));
     place(lblVersion, 1350, 1755, 3825, 240);
-    lblWarning.setFont(toolkit::font(QStringLiteral("Arial"), 8.25));
+    lblWarning.setFont(toolkit::font(u"Arial"_s, 8.25));
     lblWarning.hide();
     place(lblWarning, 105, 2730, 6630, 465);
-    lblCopyright.setFont(toolkit::font(QStringLiteral("Arial"), 8.25));
+    lblCopyright.setFont(toolkit::font(u"Arial"_s, 8.25));
     place(lblCopyright, 3765, 2805, 2415, 255);
-    Label1.setFont(toolkit::font(QStringLiteral("Verdana"), 8.25));
+    Label1.setFont(toolkit::font(u"Verdana"_s, 8.25));
     place(Label1, 165, 3330, 3465, 225);
 
     bar.setValue(1);
@@ -65,7 +64,7 @@ frmSplash::frmSplash()
 }
 
 void frmSplash::onLoad() {
-    lblVersion.setCaption(QStringLiteral("Versione ") + host::versionText());
+    lblVersion.setCaption(u"Versione "_s + host::versionText());
     lblProductName.setCaption(host::title());
 }
 

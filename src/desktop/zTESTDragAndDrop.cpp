@@ -37,7 +37,6 @@ void zTESTDragAndDrop::onLoad() {
 void zTESTDragAndDrop::riceve(const QString& testo) {
     lblTesto.setCaption(testo);
     figura una;
-    if (una.carica(runtime::toInt32(runtime::leadingNumber(testo)))) {
+    if (una.carica(runtime::toInt32(runtime::leadingNumber(testo))))
         figura_.load(una.figura_());
-    }
 }

@@ -34,9 +34,8 @@ BodyMap::BodyMap(const QString& name, QWidget* parent)
         etichetta->setFrameShape(QFrame::Box); // seen in the design only
         toolkit::place(*etichetta, area.left, area.top, area.width, area.height);
         etichetta->installEventFilter(this);
-        if (!aree_.isEmpty()) {
+        if (!aree_.isEmpty())
             etichetta->stackUnder(aree_.last()); // where two overlap, the earlier one takes the click
-        }
         aree_.append(etichetta);
     }
     Image1->lower();
@@ -45,9 +44,8 @@ BodyMap::BodyMap(const QString& name, QWidget* parent)
 void BodyMap::onLoad() {
     Image1->load(host::joined(u"\\images\\BodyMap\\corpo.JPG"_s));
     const QList<QFrame*> controlli = findChildren<QFrame*>();
-    for (QFrame* controllo : controlli) {
+    for (QFrame* controllo : controlli)
         controllo->setFrameShape(QFrame::NoFrame);
-    }
 }
 
 void BodyMap::changeMuscle(const QString& id_muscolo) {
@@ -56,23 +54,20 @@ void BodyMap::changeMuscle(const QString& id_muscolo) {
 }
 
 void BodyMap::changeBackground(const QString& percorso) {
-    if (percorso.isEmpty()) {
+    if (percorso.isEmpty())
         return;
-    }
     Image1->load(percorso);
     Image1->repaint(); // seen while the sound plays
 }
 
 bool BodyMap::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (event->type() == QEvent::MouseButtonPress)
         return true; // takes the press, so that the release comes here too
-    }
     if (event->type() == QEvent::MouseButtonRelease) {
         const auto* area = qobject_cast<QWidget*>(watched);
         const auto* mouse = static_cast<QMouseEvent*>(event);
-        if (area != nullptr && mouse->button() == Qt::LeftButton && area->rect().contains(mouse->pos())) {
+        if (area != nullptr && mouse->button() == Qt::LeftButton && area->rect().contains(mouse->pos()))
             Q_EMIT Change(area->property(proprietaCodice).toString());
-        }
         return true;
     }
     return QWidget::eventFilter(watched, event);

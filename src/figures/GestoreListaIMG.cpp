@@ -27,14 +27,12 @@ void GestoreListaIMG::init(const toolkit::ImageList& img) {
 }
 
 void GestoreListaIMG::aggiorna() {
-    if (gruppo.isEmpty() && muscolo.isEmpty()) {
+    if (gruppo.isEmpty() && muscolo.isEmpty())
         host::message(u"Selezionare un gruppo muscolare!"_s, host::Icon::Critical);
-    } else {
+    else
         elenca();
-    }
-    if (tw->nodeCount() > 0) {
+    if (tw->nodeCount() > 0)
         tw->select(tw->nodeKey(1));
-    }
 }
 
 void GestoreListaIMG::elenca() {
@@ -50,23 +48,20 @@ void GestoreListaIMG::elenca() {
     }
     tw->clear();
     for (const auto& una : *catalogo.figureQD) {
-        if (una->id_muscolo == muscolo || tutto || una->nomeMuscolo == gruppo) {
+        if (una->id_muscolo == muscolo || tutto || una->nomeMuscolo == gruppo)
             aggiungiNodo(una->figura_(), una->numero, una->id_fig);
-        }
         if (conProgresso) {
             float passo = 0;
             Tool_BarProg::comune().update(passo);
         }
     }
-    if (conProgresso) {
+    if (conProgresso)
         Tool_BarProg::comune().Chiudi();
-    }
 }
 
 void GestoreListaIMG::aggiungiNodo(const QString& link, float numero, qint32 id_fig) {
-    if (TreeViewHelper::esisteChiave(*tw, link)) {
+    if (TreeViewHelper::esisteChiave(*tw, link))
         return; // given twice for one group, or one file for two figures: the first one stays
-    }
     tw->addNode(link, u"[%1]"_s.arg(testoNumero(numero)), link);
     tw->setNodeTag(link, QString::number(id_fig));
     tw->ensureVisible(link);

@@ -61,11 +61,10 @@ bool SchedaPreviewFigura::onQueryUnload() {
 }
 
 void SchedaPreviewFigura::LoadImage(const QString& sFileName) {
-    if (sFileName.isEmpty()) {
+    if (sFileName.isEmpty())
         Image1.clear();
-    } else {
+    else
         Image1.load(sFileName);
-    }
 }
 
 void SchedaPreviewFigura::zoom(bool ingrandisci) {

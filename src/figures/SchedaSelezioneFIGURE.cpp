@@ -89,9 +89,8 @@ bool SchedaSelezioneFIGURE::onQueryUnload() {
 
 void SchedaSelezioneFIGURE::TabStrip1_Click() {
     const auto scelto = static_cast<qint16>(TabStrip1.selectedIndex());
-    if (scelto == tabCorrente || tabCorrente == 0) {
+    if (scelto == tabCorrente || tabCorrente == 0)
         return;
-    }
     Frame1[static_cast<std::size_t>(scelto - 1)].show();
     Frame1[static_cast<std::size_t>(tabCorrente - 1)].hide();
     tabCorrente = scelto;
@@ -133,25 +132,22 @@ void SchedaSelezioneFIGURE::riempiImmagini() {
     twImage.hide();
     gestoreImmagini.aggiorna();
     twImage.show();
-    if (aveaFuoco) {
+    if (aveaFuoco)
         twImage.setFocus();
-    }
 }
 
 void SchedaSelezioneFIGURE::twImage_NodeClick(const QString& chiave) {
     const QString immagine = twImage.nodeImage(chiave);
     if (immagine != u"Cartella"_s && SchedaPreviewFigura::esiste() &&
-        SchedaPreviewFigura::comune().isVisible()) {
+        SchedaPreviewFigura::comune().isVisible())
         SchedaPreviewFigura::comune().LoadImage(immagine);
-    }
 }
 
 QString SchedaSelezioneFIGURE::twImage_StartDrag() const {
     // No file is read here: "file not found", the one error after which a drag is tried anew, cannot arise.
     try {
-        if (!twImage.contains(nodoTrascinato)) {
+        if (!twImage.contains(nodoTrascinato))
             runtime::raise(runtime::ObjectNotSet);
-        }
         return QString::number(runtime::toInt32(runtime::leadingNumber(twImage.nodeTag(nodoTrascinato))));
     } catch (const runtime::Error& errore) {
         host::message(errore.description());
@@ -160,9 +156,8 @@ QString SchedaSelezioneFIGURE::twImage_StartDrag() const {
 }
 
 void SchedaSelezioneFIGURE::cmdZoom_Click() {
-    if (!twImage.hasSelection()) {
+    if (!twImage.hasSelection())
         return;
-    }
     SchedaPreviewFigura& anteprima = SchedaPreviewFigura::comune();
     anteprima.LoadImage(twImage.selectedKey());
     anteprima.show();

@@ -4,8 +4,7 @@
 
 bool TreeViewHelper::esisteChiave(const toolkit::ImageTree& tw, const QString& chiave) {
     bool trovata = false;
-    for (const QString& una : tw.nodeKeys()) {
+    for (const QString& una : tw.nodeKeys())
         trovata |= una == chiave;
-    }
     return trovata;
 }

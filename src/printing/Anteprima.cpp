@@ -15,6 +15,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double printerRatio = 4; // device pixels to the logical one: 384 dpi
@@ -23,16 +25,15 @@ constexpr double barWidth = 255;   // twips
 } // namespace
 
 Anteprima::Anteprima(const QString& name, sheet::Surface surface, const QStringList& sensibili)
-    : Form(name), superficie(std::move(surface)), Toolbar(QStringLiteral("Toolbar"), this),
-      ImageList({24, 24}), canvas(QStringLiteral("canvas"), client(), superficie, sensibili),
-      VScroll1(QStringLiteral("VScroll1"), client()) {
-    setCaption(QStringLiteral("Anteprima"));
+    : Form(name), superficie(std::move(surface)), Toolbar(u"Toolbar"_s, this), ImageList({24, 24}),
+      canvas(u"canvas"_s, client(), superficie, sensibili), VScroll1(u"VScroll1"_s, client()) {
+    setCaption(u"Anteprima"_s);
     setResizable(true);
     setInnerSize(12000, 9000);
     addTopBar(&Toolbar);
     client()->setAutoFillBackground(true);
     client()->setBackgroundRole(QPalette::Mid);
-    VScroll1.setAccessibleName(QStringLiteral("Scorrimento del foglio"));
+    VScroll1.setAccessibleName(u"Scorrimento del foglio"_s);
     VScroll1.setFocusPolicy(Qt::StrongFocus);
     VScroll1.setMin(0);
     VScroll1.setMax(0);
@@ -46,7 +47,7 @@ Anteprima::Anteprima(const QString& name, sheet::Surface surface, const QStringL
 }
 
 void Anteprima::aggiungiBarraDiStato(const QStringList& panels) {
-    StatusBar1 = new toolkit::StatusBar(QStringLiteral("StatusBar1"), this); // owned by the window
+    StatusBar1 = new toolkit::StatusBar(u"StatusBar1"_s, this); // owned by the window
     for (const QString& key : panels)
         StatusBar1->addPanel(key);
     addBottomBar(StatusBar1);

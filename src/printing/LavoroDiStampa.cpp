@@ -5,14 +5,16 @@
 #include <QImage>
 #include <QPrinter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int printerError = 482;
 constexpr double pixelsPerInch = 96; // logical pixels of the surface
 
 [[noreturn]] void rifiuta() {
-    runtime::raise(printerError, QStringLiteral("La stampa non è riuscita: la stampante o il file scelto non "
-                                                "accettano i dati."));
+    runtime::raise(printerError, u"La stampa non è riuscita: la stampante o il file scelto non "
+                                 "accettano i dati."_s);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "artwork/logos/Loghi.h"
 #include "printing/Stile.h"
 
+using namespace Qt::StringLiterals;
+
 namespace sheet {
 
 namespace {
@@ -16,8 +18,8 @@ void addLogo(Surface& surface, const QString& name, QSizeF size, artwork::Logo w
 } // namespace
 
 void addFixedLogos(Surface& surface) {
-    addLogo(surface, QStringLiteral("LogoZentara"), {1755, 540}, artwork::Logo::Zentara);
-    addLogo(surface, QStringLiteral("logoQD"), {1350, 405}, artwork::Logo::QuiverDeck);
+    addLogo(surface, u"LogoZentara"_s, {1755, 540}, artwork::Logo::Zentara);
+    addLogo(surface, u"logoQD"_s, {1350, 405}, artwork::Logo::QuiverDeck);
 }
 
 } // namespace sheet

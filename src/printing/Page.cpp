@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int colonne = 2;
@@ -49,7 +51,7 @@ void Page::impostaCanvas() {
     canvas->width = cmToTwip(20);
     canvas->height = cmToTwip(28);
     sheet::Element& heading = el("intestazione");
-    heading.text = QStringLiteral("Top");
+    heading.text = u"Top"_s;
     heading.left = finestra->width() / 2;
     heading.top = 0;
 }
@@ -93,7 +95,7 @@ void Page::scriviEsercizioLibero(const Esercizio& esercizio, int index) {
 
 void Page::scriviEsercizio(const Esercizio& esercizio, int index) {
     sheet::Element& picture = el("figura", index);
-    canvas->load(picture, host::resolve(host::joined(QStringLiteral("\\") + esercizio.getFoto())));
+    canvas->load(picture, host::resolve(host::joined(u"\\"_s + esercizio.getFoto())));
     el("durata", index).text = esercizio.durata;
     el("frequenza", index).text = esercizio.frequenza;
     el("ampiezza", index).text = esercizio.ampiezza;
@@ -103,14 +105,14 @@ void Page::scriviEsercizio(const Esercizio& esercizio, int index) {
     el("recupero", index).text = recovery.getTime();
 
     sheet::Element& mode = el("modalita", index);
-    mode.text = QStringLiteral("Modalità: ") + esercizio.modalita + u' ' + esercizio.peso;
+    mode.text = u"Modalità: "_s + esercizio.modalita + u' ' + esercizio.peso;
     sheet::Element& note = el("note", index);
     note.top = mode.top + mode.height - 30;
     mode.usableHeight = note.top - mode.top;
     note.left = mode.left;
     note.width = mode.width;
     note.height = 600;
-    note.text = QStringLiteral("Note: ") + esercizio.note;
+    note.text = u"Note: "_s + esercizio.note;
     mostraBlocco(index, true);
 }
 

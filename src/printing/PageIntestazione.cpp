@@ -11,6 +11,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Row {
@@ -34,10 +36,9 @@ void Page::scriviIntestazione() {
 void Page::scriviTestiIntestazione() {
     el("utente").text = scheda->cognomeUtente + u' ' + scheda->nomeUtente;
     el("Istruttore").text = scheda->Istruttore;
-    el("FreqAllen").text =
-        QStringLiteral("Frequenza di allenamento: %1 giorni la settimana").arg(int(scheda->FreqAllen));
+    el("FreqAllen").text = u"Frequenza di allenamento: %1 giorni la settimana"_s.arg(int(scheda->FreqAllen));
     el("GGAllen").text = GGAllenHELPER::descrizioneGGAllen(scheda->GGAllen);
-    el("Periodo").text = scheda->PeriodoDal + QStringLiteral(" - ") + scheda->PeriodoAl;
+    el("Periodo").text = scheda->PeriodoDal + u" - "_s + scheda->PeriodoAl;
     el("NoteFinali").text = scheda->note;
 }
 
@@ -76,7 +77,7 @@ void Page::nascondiRigheIntestazione() {
     if (none)
         el("FreqAllen").visible = false;
     if (daily)
-        el("FreqAllen").text = QStringLiteral("Frequenza di allenamento: ad ogni seduta");
+        el("FreqAllen").text = u"Frequenza di allenamento: ad ogni seduta"_s;
 }
 
 void Page::caricaLogo() {

@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace sheet {
 
 namespace {
@@ -16,8 +18,7 @@ PictureCache::PictureCache() : kept_(kilobytesKept) {}
 
 Picture PictureCache::load(const QString& path, QSizeF box) {
     const QFileInfo file(path);
-    const QString key = QStringLiteral("%1|%2|%3|%4x%5")
-                            .arg(path)
+    const QString key = u"%1|%2|%3|%4x%5"_s.arg(path)
                             .arg(file.size())
                             .arg(file.lastModified().toMSecsSinceEpoch())
                             .arg(box.width())

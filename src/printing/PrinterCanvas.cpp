@@ -12,39 +12,35 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Elements over which the page can be dragged, beside the bare paper.
-const QStringList sensibili{QStringLiteral("ampiezza"),  QStringLiteral("durata"),   QStringLiteral("figura"),
-                            QStringLiteral("frequenza"), QStringLiteral("modalita"), QStringLiteral("note"),
-                            QStringLiteral("recupero")};
+const QStringList sensibili{u"ampiezza"_s, u"durata"_s, u"figura"_s,  u"frequenza"_s,
+                            u"modalita"_s, u"note"_s,   u"recupero"_s};
 
 /// A bare file name for a PDF: what file systems refuse in it is left out.
 QString nomeFile(QString text) {
     text.replace(u'/', u'.');
-    static const QString refused = QStringLiteral("\\:*?\"<>|");
+    static const QString refused = u"\\:*?\"<>|"_s;
     text.removeIf([](QChar c) { return refused.contains(c) || c < u' '; });
-    return text.simplified() + QStringLiteral(".pdf");
+    return text.simplified() + u".pdf"_s;
 }
 
 } // namespace
 
 void PrinterCanvas::Finestra::setFirstPanel(const QString& text) {
-    window_.StatusBar1->setPanel(QStringLiteral("info"), text);
+    window_.StatusBar1->setPanel(u"info"_s, text);
 }
 
 PrinterCanvas::PrinterCanvas()
-    : Anteprima(QStringLiteral("PrinterCanvas"), sheet::cardSurface(), sensibili), finestra_(*this),
-      pages_(finestra_) {
-    Toolbar.addButton(QStringLiteral("Stampa"), QStringLiteral("Stampa"),
-                      QStringLiteral("Stampa l'intera scheda"));
-    Toolbar.addButton(QStringLiteral("PagPrec"), QStringLiteral("Pag.Prec"),
-                      QStringLiteral("Vai a Pagina precedente"));
-    Toolbar.addButton(QStringLiteral("PagSucc"), QStringLiteral("Pag.Succ"),
-                      QStringLiteral("Vai a Pagina successiva"));
-    Toolbar.addButton(QStringLiteral("esci"), QStringLiteral("Esci"),
-                      QStringLiteral("Esci dall'anteprima di stampa"));
-    aggiungiBarraDiStato({QStringLiteral("info"), QStringLiteral("ProgressBar")});
+    : Anteprima(u"PrinterCanvas"_s, sheet::cardSurface(), sensibili), finestra_(*this), pages_(finestra_) {
+    Toolbar.addButton(u"Stampa"_s, u"Stampa"_s, u"Stampa l'intera scheda"_s);
+    Toolbar.addButton(u"PagPrec"_s, u"Pag.Prec"_s, u"Vai a Pagina precedente"_s);
+    Toolbar.addButton(u"PagSucc"_s, u"Pag.Succ"_s, u"Vai a Pagina successiva"_s);
+    Toolbar.addButton(u"esci"_s, u"Esci"_s, u"Esci dall'anteprima di stampa"_s);
+    aggiungiBarraDiStato({u"info"_s, u"ProgressBar"_s});
 }
 
 void PrinterCanvas::onLoad() {
@@ -55,7 +51,7 @@ void PrinterCanvas::onLoad() {
         componi(1);
     } else {
         canvas.hide();
-        host::message(QStringLiteral("Nessun esercizio caricato in questa scheda!"), host::Icon::Critical);
+        host::message(u"Nessun esercizio caricato in questa scheda!"_s, host::Icon::Critical);
     }
     adattaFinestra();
 }
@@ -115,8 +111,7 @@ toolkit::PrintRange PrinterCanvas::intervallo() const {
     range.maximum = range.to = pages_.pages_.Count();
     const ::scheda& card = *pages_.pages_.Item(1)->scheda;
     range.proposedFile =
-        nomeFile(QStringLiteral("%1 %2 %3-%4")
-                     .arg(card.cognomeUtente, card.nomeUtente, card.PeriodoDal, card.PeriodoAl));
+        nomeFile(u"%1 %2 %3-%4"_s.arg(card.cognomeUtente, card.nomeUtente, card.PeriodoDal, card.PeriodoAl));
     return range;
 }
 

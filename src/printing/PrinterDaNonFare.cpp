@@ -8,14 +8,15 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 PrinterDaNonFare::PrinterDaNonFare()
-    : Anteprima(QStringLiteral("PrinterDaNonFare"), sheet::avvertenzeSurface(),
-                {QStringLiteral("avvertenze"), QStringLiteral("Image1"), QStringLiteral("Label1")}) {
-    Toolbar.addButton(QStringLiteral("Stampa"), QStringLiteral("Stampa"),
-                      QStringLiteral("Stampa la scheda corrente"));
-    Toolbar.addButton(QStringLiteral("PagPrec"), QStringLiteral("Pag.Prec"), {});
-    Toolbar.addButton(QStringLiteral("PagSucc"), QStringLiteral("Pag.Succ"), {});
-    Toolbar.addButton(QStringLiteral("esci"), QStringLiteral("Esci"), QStringLiteral("Esci dall'anteprima"));
+    : Anteprima(u"PrinterDaNonFare"_s, sheet::avvertenzeSurface(),
+                {u"avvertenze"_s, u"Image1"_s, u"Label1"_s}) {
+    Toolbar.addButton(u"Stampa"_s, u"Stampa"_s, u"Stampa la scheda corrente"_s);
+    Toolbar.addButton(u"PagPrec"_s, u"Pag.Prec"_s, {});
+    Toolbar.addButton(u"PagSucc"_s, u"Pag.Succ"_s, {});
+    Toolbar.addButton(u"esci"_s, u"Esci"_s, u"Esci dall'anteprima"_s);
 }
 
 void PrinterDaNonFare::onLoad() {
@@ -36,7 +37,7 @@ void PrinterDaNonFare::comando(const QString& key) {
 
 toolkit::PrintRange PrinterDaNonFare::intervallo() const {
     toolkit::PrintRange range; // one page
-    range.proposedFile = QStringLiteral("Istruzioni d’uso.pdf");
+    range.proposedFile = u"Istruzioni d’uso.pdf"_s;
     return range;
 }
 

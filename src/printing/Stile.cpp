@@ -1,5 +1,7 @@
 #include "printing/Stile.h"
 
+using namespace Qt::StringLiterals;
+
 namespace sheet {
 
 namespace {
@@ -19,19 +21,19 @@ Element placed(Kind kind, const QString& name, int index, const QRectF& box) {
 } // namespace
 
 Font sansSerif(double points, bool bold) {
-    return {{QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans")}, points, bold, false};
+    return {{u"MS Sans Serif"_s, u"Liberation Sans"_s}, points, bold, false};
 }
 
 Font arial(double points, bool italic) {
-    return {{QStringLiteral("Arial"), QStringLiteral("Liberation Sans")}, points, false, italic};
+    return {{u"Arial"_s, u"Liberation Sans"_s}, points, false, italic};
 }
 
 Font verdana(double points, bool bold) {
-    return {{QStringLiteral("Verdana"), QStringLiteral("DejaVu Sans")}, points, bold, false};
+    return {{u"Verdana"_s, u"DejaVu Sans"_s}, points, bold, false};
 }
 
 Font times(double points, bool bold, bool italic) {
-    return {{QStringLiteral("Times New Roman"), QStringLiteral("Liberation Serif")}, points, bold, italic};
+    return {{u"Times New Roman"_s, u"Liberation Serif"_s}, points, bold, italic};
 }
 
 Element textBox(const QString& name, int index, const QRectF& box, const Font& font, const QString& text) {

@@ -7,6 +7,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace sheet {
 
 namespace {
@@ -83,43 +85,43 @@ const std::array warnings{
 
 void addPictures(Surface& surface) {
     for (std::size_t i = 0; i < pictures.size(); ++i) {
-        Element& picture = surface.add(pictureBox(QStringLiteral("Image1"), int(i), pictures[i]));
-        const QString stored = QStringLiteral("\\images\\avvertenze\\posa%1.JPG").arg(i);
+        Element& picture = surface.add(pictureBox(u"Image1"_s, int(i), pictures[i]));
+        const QString stored = u"\\images\\avvertenze\\posa%1.JPG"_s.arg(i);
         surface.load(picture, host::resolve(host::joined(stored)));
     }
 }
 
 void addTexts(Surface& surface) {
-    Element title = textBox(QStringLiteral("UtenteEti"), 0, {3030, 585, 5835, 375}, verdana(18, true),
-                            QStringLiteral("ISTRUZIONI D'USO"));
+    Element title =
+        textBox(u"UtenteEti"_s, 0, {3030, 585, 5835, 375}, verdana(18, true), u"ISTRUZIONI D'USO"_s);
     title.alignment = Qt::AlignCenter;
     title.colour = QColor(192, 0, 0);
     surface.add(std::move(title));
 
     for (std::size_t i = 0; i < explanations.size(); ++i) {
-        Element label = textBox(QStringLiteral("Label1"), int(i), explanations[i].box, arial(8.25),
+        Element label = textBox(u"Label1"_s, int(i), explanations[i].box, arial(8.25),
                                 QString::fromUtf8(explanations[i].text));
         label.colour = QColor(128, 0, 128);
         label.wordWrap = true;
         surface.add(std::move(label));
     }
     // The last explanation's box reaches beyond its frame; its text does not.
-    const Element& frame = surface.element(QStringLiteral("Shape3"));
-    Element& last = surface.element(QStringLiteral("Label1"), int(explanations.size()) - 1);
+    const Element& frame = surface.element(u"Shape3"_s);
+    Element& last = surface.element(u"Label1"_s, int(explanations.size()) - 1);
     last.usableWidth = frame.left + frame.width - 75 - last.left;
     last.usableHeight = frame.top + frame.height - 75 - last.top;
 
     QStringList paragraphs;
     for (const char* paragraph : warnings)
         paragraphs << QString::fromUtf8(paragraph);
-    Element warning = textBox(QStringLiteral("avvertenze"), 0, {1065, 0, 9645, 3345}, verdana(8.25),
-                              paragraphs.join(u'\n'));
+    Element warning =
+        textBox(u"avvertenze"_s, 0, {1065, 0, 9645, 3345}, verdana(8.25), paragraphs.join(u'\n'));
     warning.colour = QColor(255, 0, 0);
     warning.wordWrap = true;
     surface.add(std::move(warning));
 
-    Element producer = textBox(QStringLiteral("info"), 0, {0, 0, 2775, 285}, times(9, false, true),
-                               QStringLiteral("Printed with: ") + host::title());
+    Element producer =
+        textBox(u"info"_s, 0, {0, 0, 2775, 285}, times(9, false, true), u"Printed with: "_s + host::title());
     producer.visible = false;
     surface.add(std::move(producer));
 }
@@ -128,19 +130,19 @@ void addTexts(Surface& surface) {
 void place(Surface& surface) {
     const double windowWidth = cmToTwip(20);
     const double h = cmToTwip(28);
-    Element& info = surface.element(QStringLiteral("info"));
+    Element& info = surface.element(u"info"_s);
     info.top = h - 2 * info.height;
     info.left = windowWidth * 2.85 / 4;
 
-    Element& maker = surface.element(QStringLiteral("LogoZentara"));
+    Element& maker = surface.element(u"LogoZentara"_s);
     maker.top = h - 2 * maker.height + 150;
     maker.left = info.left + info.width - maker.width - 20;
 
-    Element& product = surface.element(QStringLiteral("logoQD"));
+    Element& product = surface.element(u"logoQD"_s);
     product.top = h - 2 * product.height + 115;
     product.left = cmToTwip(0.9) + 100;
 
-    Element& warning = surface.element(QStringLiteral("avvertenze"));
+    Element& warning = surface.element(u"avvertenze"_s);
     warning.top = h - 1.5 * warning.height;
 }
 

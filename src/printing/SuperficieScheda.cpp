@@ -5,6 +5,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace sheet {
 
 namespace {
@@ -72,7 +74,7 @@ Element make(const BlockPart& part, int index) {
 
 /// The number lies on the figure, so it is added after it.
 void addBlock(Surface& surface, int index) {
-    surface.add(roundedFrame(QStringLiteral("cornice"), index, QRectF({0, 0}, blockSize)));
+    surface.add(roundedFrame(u"cornice"_s, index, QRectF({0, 0}, blockSize)));
     for (const BlockPart& part : blockParts)
         if (part.role != Role::Number)
             surface.add(make(part, index));
@@ -105,31 +107,31 @@ void addHeader(Surface& surface) {
     addHeaderValue(surface, "FreqAllen", {8190, 345}, 12);
     addHeaderLabel(surface, "GGAllenEti", 345, 12, "Giorni: ");
     addHeaderValue(surface, "GGAllen", {6015, 345}, 12);
-    surface.add(levelRule(QStringLiteral("linea"), ruleLength));
+    surface.add(levelRule(u"linea"_s, ruleLength));
 
-    Element logo = pictureBox(QStringLiteral("logoPalestra"), 0, {});
+    Element logo = pictureBox(u"logoPalestra"_s, 0, {});
     logo.visible = false;
     surface.add(std::move(logo));
 
-    Element heading = textBox(QStringLiteral("intestazione"), 0, {}, sansSerif(8.25));
+    Element heading = textBox(u"intestazione"_s, 0, {}, sansSerif(8.25));
     heading.visible = false;
     surface.add(std::move(heading));
 }
 
 void addFooter(Surface& surface) {
-    surface.add(levelRule(QStringLiteral("linea2"), ruleLength));
+    surface.add(levelRule(u"linea2"_s, ruleLength));
 
-    Element number = textBox(QStringLiteral("piepagina"), 0, {0, 0, 2175, 255}, times(9));
+    Element number = textBox(u"piepagina"_s, 0, {0, 0, 2175, 255}, times(9));
     number.alignment = Qt::AlignHCenter | Qt::AlignTop;
     surface.add(std::move(number));
 
-    Element producer = textBox(QStringLiteral("info"), 0, {0, 0, 2865, 270}, times(9, false, true));
+    Element producer = textBox(u"info"_s, 0, {0, 0, 2865, 270}, times(9, false, true));
     producer.visible = false;
     surface.add(std::move(producer));
 
     addFixedLogos(surface);
 
-    Element notes = textBox(QStringLiteral("NoteFinali"), 0, {510, 0, 10485, 1170}, arial(8.25, true));
+    Element notes = textBox(u"NoteFinali"_s, 0, {510, 0, 10485, 1170}, arial(8.25, true));
     notes.wordWrap = true;
     notes.visible = false;
     surface.add(std::move(notes));
@@ -147,7 +149,7 @@ Surface cardSurface() {
 }
 
 void ripristinaBlocco(Surface& surface, int index) {
-    Element& frame = surface.element(QStringLiteral("cornice"), index);
+    Element& frame = surface.element(u"cornice"_s, index);
     frame.width = blockSize.width();
     frame.height = blockSize.height();
     for (const BlockPart& part : blockParts) {

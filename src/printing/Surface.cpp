@@ -7,12 +7,14 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace sheet {
 
 namespace {
 
 QString label(const QString& name, int index) {
-    return QStringLiteral("%1(%2)").arg(name).arg(index);
+    return u"%1(%2)"_s.arg(name).arg(index);
 }
 
 } // namespace
@@ -21,7 +23,7 @@ Element& Surface::add(Element element) {
     const std::pair key{element.name, element.index};
     if (places_.contains(key))
         runtime::raise(runtime::InvalidPropertyValue,
-                       QStringLiteral("Elemento doppio: %1").arg(label(element.name, element.index)));
+                       u"Elemento doppio: %1"_s.arg(label(element.name, element.index)));
     places_.insert(key, elements_.size());
     return elements_.emplace_back(std::move(element));
 }
@@ -29,8 +31,7 @@ Element& Surface::add(Element element) {
 std::size_t Surface::placeOf(const QString& name, int index) const {
     const auto found = places_.constFind({name, index});
     if (found == places_.cend())
-        runtime::raise(runtime::SubscriptOutOfRange,
-                       QStringLiteral("Elemento inesistente: %1").arg(label(name, index)));
+        runtime::raise(runtime::SubscriptOutOfRange, u"Elemento inesistente: %1"_s.arg(label(name, index)));
     return *found;
 }
 

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 void pages::createPages(std::int32_t id) {
     if (id != 0)
         id_scheda = id;
@@ -33,13 +35,13 @@ void pages::createPages(std::int32_t id) {
 }
 
 void pages::OpenCanvas() {
-    window_.canvas().element(QStringLiteral("info")).text = QStringLiteral("Printed with: ") + host::title();
+    window_.canvas().element(u"info"_s).text = u"Printed with: "_s + host::title();
 }
 
 void pages::PreviewPage(std::int16_t numero) {
     pages_.Item(numero)->setCanvas(window_);
     currentPage = numero;
-    const QString text = QStringLiteral("Pagina %1/%2").arg(numero).arg(pages_.Count());
+    const QString text = u"Pagina %1/%2"_s.arg(numero).arg(pages_.Count());
     window_.setFirstPanel(text);
-    window_.canvas().element(QStringLiteral("piepagina")).text = text;
+    window_.canvas().element(u"piepagina"_s).text = text;
 }

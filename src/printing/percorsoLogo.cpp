@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 QString percorsoLogo(const QString& stored) {
     QString file = host::resolve(stored);
     if (QFileInfo(file).isFile())
@@ -15,7 +17,7 @@ QString percorsoLogo(const QString& stored) {
         return file;
     // An apostrophe in a stored text has become a backquote.
     for (const QString& name : {parts.last(), QString(parts.last()).replace(u'`', u'\'')}) {
-        const QString here = host::resolve(host::joined(QStringLiteral("\\images\\") + name));
+        const QString here = host::resolve(host::joined(u"\\images\\"_s + name));
         if (QFileInfo(here).isFile())
             return here;
     }

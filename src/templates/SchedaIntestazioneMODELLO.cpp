@@ -53,9 +53,8 @@ SchedaIntestazioneMODELLO::SchedaIntestazioneMODELLO()
 
 SchedaModello& SchedaIntestazioneMODELLO::aperta() {
     auto* modello = dynamic_cast<SchedaModello*>(mdiScheda::comune().schedaAperta.get());
-    if (modello == nullptr) {
+    if (modello == nullptr)
         runtime::raise(runtime::ObjectNotSet);
-    }
     return *modello;
 }
 
@@ -63,14 +62,12 @@ void SchedaIntestazioneMODELLO::onLoad() {
     setOuterSize(4950, 2700);
     Categorie().fillcategorie(categoria);
     const SchedaModello& modello = aperta();
-    if (!modello.categoria.isEmpty()) {
+    if (!modello.categoria.isEmpty())
         categoria.setText(modello.categoria);
-    }
     descrizione.setText(modello.descrizione);
     note.setText(modello.note);
-    if (categoria.text().isEmpty()) {
+    if (categoria.text().isEmpty())
         categoria.selectIndex(Categorie::iniziale);
-    }
 }
 
 bool SchedaIntestazioneMODELLO::onQueryUnload() {

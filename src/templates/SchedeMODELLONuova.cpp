@@ -22,9 +22,8 @@ SchedeMODELLONuova::SchedeMODELLONuova()
     const QFont verdana = toolkit::font(u"Verdana"_s, 8.25);
     for (QWidget* controllo :
          {static_cast<QWidget*>(&Label1), static_cast<QWidget*>(&Label2), static_cast<QWidget*>(&categoria),
-          static_cast<QWidget*>(&descrizione), static_cast<QWidget*>(&cmdOk)}) {
+          static_cast<QWidget*>(&descrizione), static_cast<QWidget*>(&cmdOk)})
         controllo->setFont(verdana);
-    }
     toolkit::place(Label1, 120, 120, 1800, 255);
     QFont stretto = verdana;
     stretto.setStretch(88); // the longest of the supplied names shows whole
@@ -43,11 +42,10 @@ SchedeMODELLONuova::SchedeMODELLONuova()
 
 void SchedeMODELLONuova::onLoad() {
     Categorie().fillcategorie(categoria);
-    if (!variabiliGlobali::nomeModelloSelezionato.isEmpty()) {
+    if (!variabiliGlobali::nomeModelloSelezionato.isEmpty())
         categoria.setText(variabiliGlobali::nomeModelloSelezionato);
-    } else {
+    else
         categoria.selectIndex(Categorie::iniziale);
-    }
 }
 
 bool SchedeMODELLONuova::eventFilter(QObject* watched, QEvent* event) {

@@ -95,15 +95,14 @@ qint32 SchedeMODELLOSelezione::selezionato() const {
 }
 
 void SchedeMODELLOSelezione::Toolbar_ButtonClick(const QString& key) {
-    if (key == u"seleziona"_s || key == u"modifica"_s) {
+    if (key == u"seleziona"_s || key == u"modifica"_s)
         seleziona(); // the caller opens the editor on the key
-    } else if (key == u"annulla"_s) {
+    else if (key == u"annulla"_s)
         annulla();
-    } else if (key == u"nuova"_s) {
+    else if (key == u"nuova"_s)
         nuova();
-    } else if (key == u"elimina"_s) {
+    else if (key == u"elimina"_s)
         elimina();
-    }
 }
 
 void SchedeMODELLOSelezione::seleziona() {
@@ -134,9 +133,8 @@ void SchedeMODELLOSelezione::elimina() {
                           host::Icon::Critical);
             return;
         }
-        if (host::ask(u"Confermi?"_s, host::Icon::Question, host::Buttons::YesNo) != host::Answer::Yes) {
+        if (host::ask(u"Confermi?"_s, host::Icon::Question, host::Buttons::YesNo) != host::Answer::Yes)
             return;
-        }
         if (modello.Elimina(chiave)) {
             host::message(u"Scheda eliminata"_s, host::Icon::Information);
             fillList();

@@ -50,9 +50,8 @@ private Q_SLOTS:
         QFETCH(int, presses);
         const FormPage page(open(1));
         page.clickLine(u"LW"_s, 1, presses);
-        if (presses == 1) {
+        if (presses == 1)
             page.press(u"seleziona"_s);
-        }
         QCOMPARE(idSchedaSelezionata, 2);
         QVERIFY(!SchedeSelezione::esiste());
     }
@@ -61,9 +60,8 @@ private Q_SLOTS:
         sql(u"DELETE FROM schede WHERE id_utente=2"_s);
         boxes().expect(Icon::Critical, u"L'utente non ha schede salvate!"_s);
         const FormPage page(open(2));
-        for (const QString& key : {u"seleziona"_s, u"elimina"_s, u"stampa"_s}) {
+        for (const QString& key : {u"seleziona"_s, u"elimina"_s, u"stampa"_s})
             QVERIFY(!page.isEnabled(key));
-        }
         Q_EMIT page.list().doubleClick(); // in the empty list: nothing
         page.press(u"annulla"_s);
         QVERIFY(!SchedeSelezione::esiste());

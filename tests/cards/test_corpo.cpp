@@ -57,9 +57,8 @@ private Q_SLOTS:
     void blanksStandBehindTheLoadedLines() {
         QFETCH(int, caricati);
         const int card = nuovaScheda();
-        for (int i = 1; i <= caricati; ++i) {
+        for (int i = 1; i <= caricati; ++i)
             esercizio(card, i, 1);
-        }
         apriScheda(card);
         QTEST(aperta().esercizi->Count(), "inMemoria");
         QCOMPARE(mostrata(corpo(), 0), caricata);
@@ -84,9 +83,8 @@ private Q_SLOTS:
         QCOMPARE(mostrata(corpo(), 1), predefinita);
         QVERIFY(senzaFigura(u"figura_1"_s) && !senzaFigura(u"figura_0"_s));
         QCOMPARE(barra().maximum(), 4); // 6 lines, 3 screens and one more
-        for (int i = 1; i <= 6; ++i) {
+        for (int i = 1; i <= 6; ++i)
             QCOMPARE(aperta().esercizi->Item(i)->nprog, i);
-        }
     }
 
     void deletionIsInTheStoreAtOnce() {
@@ -146,11 +144,10 @@ private Q_SLOTS:
         apriConFigure({1});
         QVERIFY(stato().contains(u"Tempo totale: 06:15"_s));
         aperta().isSaved = true;
-        if (qobject_cast<QLineEdit*>(&corpo().widget(campo)) != nullptr) {
+        if (qobject_cast<QLineEdit*>(&corpo().widget(campo)) != nullptr)
             corpo().type(campo, testo);
-        } else {
+        else
             corpo().choose(campo, testo);
-        }
         QVERIFY2(stato().contains(u"Tempo totale: "_s + totale), qPrintable(stato()));
         QVERIFY(!aperta().isSaved);
     }
@@ -181,9 +178,8 @@ private Q_SLOTS:
         const WindowPage pagina = corpo();
         pagina.type(campo, testo);
         QVERIFY(!pagina.text(campo).contains(u'\'') && !pagina.text(campo).contains(u'x'));
-        if (!messaggio.isEmpty()) {
+        if (!messaggio.isEmpty())
             boxes().expect(Icon::Critical, messaggio);
-        }
         pagina.clickTab(u"TipoEsercizio_0"_s, 2);
         QCOMPARE(pagina.isVisible(u"FrameLibero_0"_s), messaggio.isEmpty());
         if (!messaggio.isEmpty()) {
@@ -209,9 +205,8 @@ private Q_SLOTS:
         apriNuova();
         const ExpectedFatal fatale;
         corpo().type(campo, testo);
-        if (fatale.count == 0) {
+        if (fatale.count == 0)
             QTest::keyClick(&corpo().widget(campo), Qt::Key_Tab);
-        }
         QTEST(fatale.lastNumber, "errore");
     }
 
@@ -247,9 +242,8 @@ private Q_SLOTS:
         apriNuova();
         QVERIFY(QFile::remove(program().folder() + u"/images/Q/002.JPG"_s));
         const ExpectedFatal fatale;
-        if (chiave == u"77"_s) {
+        if (chiave == u"77"_s)
             boxes().expect(Icon::Critical, u"ERR:Problemi di connessione"_s);
-        }
         corpo().drop(u"figura_0"_s, chiave);
         QCOMPARE(fatale.lastNumber, int(runtime::FileNotFound));
     }

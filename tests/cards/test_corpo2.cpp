@@ -41,9 +41,8 @@ class TestCorpo2 : public EditorTest {
     static QString mostrato() {
         QStringList testi;
         for (const auto* campo :
-             {"nEsercizio", "durata", "frequenza", "ampiezza", "recupero", "modalita", "peso", "note"}) {
+             {"nEsercizio", "durata", "frequenza", "ampiezza", "recupero", "modalita", "peso", "note"})
             testi += pagina().text(QLatin1String(campo));
-        }
         auto& figura = pagina().find<toolkit::PictureBox>(u"figura"_s);
         return testi.join(u'|') + u'|' + (figura.isEmpty() ? u"-"_s : figura.Tag);
     }
@@ -75,9 +74,8 @@ private Q_SLOTS:
         pagina().press(u"cmdSucc"_s); // beyond the end: a new one with the defaults
         QCOMPARE(mostrato(), u"4|30s|30Hz||0:00|Statico a carico aggiuntivo|||-"_s);
         QCOMPARE(scheda_->esercizi->Count(), 4);
-        for (int i = 0; i < 3; ++i) {
+        for (int i = 0; i < 3; ++i)
             pagina().press(u"cmdPrec"_s);
-        }
         QCOMPARE(mostrato(), primo);
         QCOMPARE(scheda_->esercizi->Count(), 4);
         QCOMPARE(riga(4).durata, u"30s"_s); // written when it was left

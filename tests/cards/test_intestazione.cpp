@@ -31,9 +31,8 @@ class TestIntestazione : public EditorTest {
     /// The texts of the named fields, joined by "|".
     static QString campi(const QStringList& nomi) {
         QStringList testi;
-        for (const QString& nome : nomi) {
+        for (const QString& nome : nomi)
             testi += intestazione().text(nome);
-        }
         return testi.join(u'|');
     }
 
@@ -63,11 +62,9 @@ private Q_SLOTS:
                         u"note"_s}),
                  u"Generale|Forza|Anna|02/11/2026|30/11/2026|2|Bere molto"_s);
         QStringList spuntati;
-        for (int i = 0; i < giorni().count(); ++i) {
-            if (giorni().item(i)->checkState() == Qt::Checked) {
+        for (int i = 0; i < giorni().count(); ++i)
+            if (giorni().item(i)->checkState() == Qt::Checked)
                 spuntati += giorni().item(i)->text();
-            }
-        }
         QCOMPARE(spuntati, QStringList({u"Lunedi"_s, u"Mercoledi"_s, u"Venerdi"_s}));
         QVERIFY(!aperta().isSaved); // every card that shows is marked unsaved
     }
@@ -132,9 +129,8 @@ private Q_SLOTS:
         apriScheda(nuovaScheda());
         intestazione().type(u"FreqAllen"_s, digitato);
         QTEST(int(schedaAperta().FreqAllen), "atteso");
-        if (rifiutato) {
+        if (rifiutato)
             boxes().expect(Icon::Critical, fuoriLista);
-        }
         intestazione().press(u"note"_s);
         QCOMPARE(intestazione().find<QComboBox>(u"FreqAllen"_s).hasFocus(), rifiutato);
     }
@@ -157,9 +153,8 @@ private Q_SLOTS:
     void dayListCloses_data() {
         QTest::addColumn<bool>("chiude");
         for (const char* campo :
-             {"categoria", "Istruttore", "Obiettivo", "note", "dal", "apriGGAllen", "fine"}) {
+             {"categoria", "Istruttore", "Obiettivo", "note", "dal", "apriGGAllen", "fine"})
             QTest::newRow(campo) << true;
-        }
         QTest::newRow("al") << false;
         QTest::newRow("FreqAllen") << false;
     }

@@ -204,9 +204,8 @@ private Q_SLOTS:
 
     void closeBoxesLeaveTheEditorOpen() {
         apriNuova();
-        for (toolkit::Form* pagina : mdiScheda::comune().pages()) {
+        for (toolkit::Form* pagina : mdiScheda::comune().pages())
             QVERIFY2(!pagina->unload(), qPrintable(pagina->objectName()));
-        }
         QVERIFY(!mdiScheda::comune().close());
         QVERIFY(mdiScheda::comune().isVisible());
         QCOMPARE(mdiScheda::comune().pages().size(), 4);
@@ -276,9 +275,8 @@ private Q_SLOTS:
         apri(0, 0, modello);
         const auto contatore = mdiScheda::comune().contaTempi;
         WindowPage(SchedaIntestazioneMODELLO::comune()).type(u"note"_s, u"cambiate"_s);
-        if (modello == 2) {
+        if (modello == 2)
             boxes().expect(Icon::Information, u"Salvare le modifiche al modello precedente?"_s, Answer::Yes);
-        }
         boxes().expect(Icon::Information, u"Creata e aperta la nuova Scheda Modello 'Nuovo'"_s);
         rispondi(u"Nuovo"_s);
         comando(u"SalvaSuModello"_s);

@@ -14,10 +14,9 @@ namespace {
 QRect inked(const QImage& image) {
     QRect result;
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < image.width(); ++x)
             if (qAlpha(image.pixel(x, y)) > 16)
                 result |= QRect(x, y, 1, 1);
-        }
     }
     return result;
 }

@@ -192,9 +192,8 @@ private:
     static QAction& menu(const QString& name) {
         QAction& action =
             WindowPage(Principale::comune()).find<MenuPrincipale>(u"MenuPrincipale"_s).voce(name);
-        if (!action.isEnabled()) {
+        if (!action.isEnabled())
             qFatal("%s is disabled", qPrintable(name));
-        }
         return action;
     }
 };

@@ -21,11 +21,9 @@ QImage green(const QSize& size) {
 /// How many pixels of `colour` a rectangle of the image holds.
 int count(const QImage& image, const QRect& place, const QColor& colour) {
     int found = 0;
-    for (int y = place.top(); y <= place.bottom(); ++y) {
-        for (int x = place.left(); x <= place.right(); ++x) {
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = place.left(); x <= place.right(); ++x)
             found += image.pixelColor(x, y) == colour ? 1 : 0;
-        }
-    }
     return found;
 }
 
@@ -71,9 +69,8 @@ private Q_SLOTS:
         // The access letter's line, and the second text at the right.
         const QColor text = first_->palette().color(QPalette::Text);
         int longest = 0;
-        for (int y = item.top(); y <= item.bottom(); ++y) {
+        for (int y = item.top(); y <= item.bottom(); ++y)
             longest = std::max(longest, count(shown, QRect(item.left() + 34, y, 6, 1), text));
-        }
         QVERIFY(longest >= 5);
         QVERIFY(second_->actionGeometry(second_->actions().first()).left() < StileMenu::lato); // no side bar
     }

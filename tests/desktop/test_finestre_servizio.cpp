@@ -19,14 +19,12 @@ class Links : public QObject {
     Q_OBJECT
 public:
     Links() {
-        for (const QString& scheme : {u"https"_s, u"mailto"_s}) {
+        for (const QString& scheme : {u"https"_s, u"mailto"_s})
             QDesktopServices::setUrlHandler(scheme, this, "opened");
-        }
     }
     ~Links() override {
-        for (const QString& scheme : {u"https"_s, u"mailto"_s}) {
+        for (const QString& scheme : {u"https"_s, u"mailto"_s})
             QDesktopServices::unsetUrlHandler(scheme);
-        }
     }
     Links(const Links&) = delete;
     Links& operator=(const Links&) = delete;
@@ -69,9 +67,8 @@ private Q_SLOTS:
         const auto& bar = WindowPage(splash).find<toolkit::ProgressBar>(u"bar"_s);
         splash.barSetMax(3 + 1);
         splash.barReset();
-        for (int figure = 0; figure < 3; ++figure) {
+        for (int figure = 0; figure < 3; ++figure)
             splash.barStep();
-        }
         QCOMPARE(bar.value(), bar.maximum());
         QVERIFY_THROWS_EXCEPTION(runtime::Error, splash.barStep());
         QCOMPARE(bar.value(), 4);
@@ -165,9 +162,8 @@ private Q_SLOTS:
             value = key.endsWith(u"MSINFO"_s) && name == u"PATH"_s ? path : location;
             return !value.isEmpty();
         });
-        if (error < 0) {
+        if (error < 0)
             boxes().expect(Icon::None, u"Le informazioni sul sistema non sono attualmente disponibili."_s);
-        }
         frmAbout::comune().show();
         WindowPage(frmAbout::comune()).press(u"cmdSysInfo"_s);
         QCOMPARE(fatal.lastNumber, std::max(error, 0));
@@ -180,7 +176,7 @@ private Q_SLOTS:
         const WindowPage page(display);
         display.stampa(u"utenti: 3"_s);
         display.stampa({});
-        display.stampa(QStringLiteral("riga\n").repeated(100));
+        display.stampa(u"riga\n"_s.repeated(100));
         QVERIFY(page.text(u"txtDisplay"_s).startsWith(u"\nutenti: 3\n\nriga\n"_s));
         const auto& text = page.find<toolkit::TextArea>(u"txtDisplay"_s);
         QVERIFY(text.textCursor().atEnd());

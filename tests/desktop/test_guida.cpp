@@ -176,9 +176,8 @@ private:
     static QStringList contents() {
         QStringList lines;
         const auto& tree = WindowPage(FinestraGuida::comune()).find<QTreeWidget>(u"indice"_s);
-        for (QTreeWidgetItemIterator item(&const_cast<QTreeWidget&>(tree)); *item != nullptr; ++item) {
+        for (QTreeWidgetItemIterator item(&const_cast<QTreeWidget&>(tree)); *item != nullptr; ++item)
             lines.append(((*item)->parent() != nullptr ? u"  "_s : QString()) + (*item)->text(0));
-        }
         return lines;
     }
     static QAction& item(const QString& name) {

@@ -27,9 +27,8 @@ private:
 void writeFile(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("cannot write %s", qPrintable(path));
-    }
 }
 
 QByteArray readFile(const QString& path) {
@@ -176,9 +175,8 @@ private Q_SLOTS:
         const QString tag = page.logo().Tag;
 
         dialogs_->answer = elsewhere_->filePath(u"secondo.jpg"_s);
-        if (!bytes.isEmpty()) {
+        if (!bytes.isEmpty())
             writeFile(dialogs_->answer, bytes);
-        }
         boxes().expectBeginning(Icon::Critical, reason);
         page.press(u"cmdApriIMG"_s);
         QCOMPARE(page.logo().Tag, tag);

@@ -64,13 +64,11 @@ private Q_SLOTS:
         QFETCH(QString, stored);
         QFETCH(int, width);
         QFETCH(bool, asks);
-        if (!stored.isEmpty()) {
+        if (!stored.isEmpty())
             sql(u"INSERT INTO Parametri VALUES ('CAMBIO_RISOLUZIONE',"_s + stored + u')');
-        }
         display_->present.width = width;
-        if (asks) {
+        if (asks)
             boxes().expectBeginning(Icon::Critical, u"Il programma è stato ottimizzato"_s, Answer::No);
-        }
         controllaRisoluzione();
         QTEST(rows(u"SELECT valore FROM Parametri WHERE parametro='CAMBIO_RISOLUZIONE'"), "after");
         QVERIFY(display_->asked.isEmpty());
@@ -91,9 +89,8 @@ private Q_SLOTS:
         QFETCH(bool, back);
         boxes().expectBeginning(Icon::Critical, question, Answer::Yes);
         boxes().expectBeginning(Icon::Information, u"Il programma proverà ora a cambiare risoluzione"_s);
-        if (back) {
+        if (back)
             boxes().expect(Icon::Information, u"Reimpostata risoluzione precedente"_s);
-        }
         display_->accepts = act != u"OKButton"_s; // a refused mode brings the confirmation up all the same
         auto* timer = ResolutionConfirm::comune().findChild<QTimer*>(u"Timer"_s);
         QCOMPARE(timer->interval(), 1000);
@@ -105,13 +102,12 @@ private Q_SLOTS:
         } else {
             whenModal([act](toolkit::Form& form) {
                 QCOMPARE(FormPage(form).text(u"lblSec"_s), u"16"_s);
-                if (act == u"close"_s) {
+                if (act == u"close"_s)
                     form.close();
-                } else if (act == u"escape"_s) {
+                else if (act == u"escape"_s)
                     QTest::keyClick(&form, Qt::Key_Escape);
-                } else {
+                else
                     FormPage(form).press(act);
-                }
             });
         }
         controllaRisoluzione();

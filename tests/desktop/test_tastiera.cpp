@@ -55,9 +55,8 @@ class TestTastiera : public EditorTest {
 private Q_SLOTS:
     void init() {
         EditorTest::init();
-        for (int i = 0; i < 5; ++i) {
+        for (int i = 0; i < 5; ++i)
             givePicture(program(), u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
-        }
         QDir().mkpath(program().folder() + u"/HELP"_s);
         QFile help(program().folder() + u"/HELP/HELP.hlp"_s);
         QVERIFY(help.open(QIODevice::WriteOnly));
@@ -132,11 +131,9 @@ private Q_SLOTS:
     void pagesByKeyboard() {
         conFigure({1});
         const auto active = [] {
-            for (const toolkit::Form* page : mdiScheda::comune().pages()) {
-                if (page->isAncestorOf(QApplication::focusWidget())) {
+            for (const toolkit::Form* page : mdiScheda::comune().pages())
+                if (page->isAncestorOf(QApplication::focusWidget()))
                     return page->objectName();
-                }
-            }
             return QString();
         };
         QStringList pages;

@@ -40,10 +40,9 @@ QString pathOf(const QWidget& widget) {
     QString path = widget.objectName();
     if (!isOurs(path))
         return {};
-    for (const QWidget* up = widget.parentWidget(); up; up = up->parentWidget()) {
+    for (const QWidget* up = widget.parentWidget(); up; up = up->parentWidget())
         if (isOurs(up->objectName()))
             path = up->objectName() + u'/' + path;
-    }
     return path;
 }
 

@@ -113,10 +113,9 @@ void RealProgram::send(const QString& request) {
 }
 
 QByteArray RealProgram::readLine() {
-    while (!socket_.canReadLine()) {
+    while (!socket_.canReadLine())
         if (!socket_.waitForReadyRead(patience))
             return {};
-    }
     return socket_.readLine();
 }
 

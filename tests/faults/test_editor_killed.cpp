@@ -30,19 +30,17 @@ QString difference(const QJsonObject& one, const QJsonObject& other) {
     QStringList found;
     const QStringList keys = one.keys() + other.keys();
     const QSet<QString> paths(keys.begin(), keys.end());
-    for (const QString& path : paths) {
+    for (const QString& path : paths)
         if (one[path] != other[path])
             found += u"%1: '%2', '%3'"_s.arg(path, one[path].toString(), other[path].toString());
-    }
     return found.join(u'\n');
 }
 
 QString pathOf(const QString& target, const QJsonObject& shown) {
     const QStringList paths = shown.keys();
-    for (const QString& path : paths) {
+    for (const QString& path : paths)
         if (path.endsWith(u'/' + target.section(u'/', 1)) && path.contains(target.section(u'/', 0, 0)))
             return path;
-    }
     return {};
 }
 
@@ -65,10 +63,9 @@ Act anyAct(std::mt19937& random, const QJsonObject& shown) {
     const QStringList paths = shown.keys();
     for (const QString& path : paths) {
         for (const QString& name : {u"note"_s, u"note_0"_s, u"note_1"_s, u"note_2"_s, u"note_3"_s,
-                                    u"peso_0"_s, u"peso_1"_s, u"Obiettivo"_s, u"Istruttore"_s}) {
+                                    u"peso_0"_s, u"peso_1"_s, u"Obiettivo"_s, u"Istruttore"_s})
             if (path.endsWith(u'/' + name))
                 fields += path.section(u'/', 1, 1) + u'/' + name; // the page and the field
-        }
     }
     return {fields[static_cast<qsizetype>(random() % static_cast<unsigned>(fields.size()))],
             u"è%1, "_s.arg(random(), 9).repeated(2)};

@@ -126,11 +126,10 @@ private:
     static QStringList filesLike(const QDir& images, const QString& pattern) {
         QStringList found;
         const QString folders = pattern.contains(u'/') ? pattern.section(u'/', 0, 0) : u"."_s;
-        for (const QString& folder : images.entryList({folders}, QDir::Dirs)) {
+        for (const QString& folder : images.entryList({folders}, QDir::Dirs))
             for (const QFileInfo& file :
                  QDir(images.filePath(folder)).entryInfoList({pattern.section(u'/', -1)}, QDir::Files))
                 found += file.filePath();
-        }
         return found;
     }
 

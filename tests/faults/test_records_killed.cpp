@@ -69,14 +69,13 @@ private:
         QCOMPARE(driver.exitStatus(), QProcess::CrashExit);
         output += driver.readAll();
         const auto lines = output.split('\n');
-        for (const QByteArray& line : lines) {
+        for (const QByteArray& line : lines)
             if (line.startsWith('+'))
                 said.begun += QString::fromUtf8(line.mid(1));
             else if (line == "-")
                 ++said.returned;
             else
                 QVERIFY2(line.isEmpty(), line.constData());
-        }
         QVERIFY(said.returned == said.begun.size() || said.returned == said.begun.size() - 1);
     }
 };

@@ -87,10 +87,9 @@ void becomeNobody(RealProgram& program) {
         ::chmod(QFile::encodeName(up.absolutePath()).constData(), 0755);
     ::chmod(QFile::encodeName(program.home()).constData(), 0755);
     for (const QString& path : {program.folder, program.file(storeName), program.home() + u"/run"_s,
-                                program.home() + u"/config"_s, program.home() + u"/data"_s}) {
+                                program.home() + u"/config"_s, program.home() + u"/data"_s})
         if (::geteuid() == 0 && ::chown(QFile::encodeName(path).constData(), nobody, nobody) != 0)
             throw std::runtime_error("no other owner");
-    }
 }
 
 /// No file of the program may grow beyond that many bytes.
@@ -467,10 +466,9 @@ private:
             QFile filler(folder_.filePath(u"filler"_s));
             if (!filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
                 throw std::runtime_error("no filler");
-            for (qint64 piece = 1 << 20; piece > 0;) {
+            for (qint64 piece = 1 << 20; piece > 0;)
                 if (filler.write(QByteArray(piece, 'x')) < piece)
                     piece /= 2;
-            }
         }
         void empty() const { QFile::remove(folder_.filePath(u"filler"_s)); }
 

@@ -17,14 +17,12 @@ class TestBodyMap : public WindowTest {
         QSignalSpy eventi(mappa_.get(), &BodyMap::Change);
         const QPoint punto(toolkit::toPixels(x), toolkit::toPixels(y));
         QWidget* sotto = mappa_->childAt(punto);
-        if (sotto == nullptr) {
+        if (sotto == nullptr)
             sotto = mappa_.get();
-        }
         QTest::mouseClick(sotto, Qt::LeftButton, {}, sotto->mapFrom(mappa_.get(), punto));
         QStringList codici;
-        for (const auto& evento : eventi) {
+        for (const auto& evento : eventi)
             codici += evento.first().toString();
-        }
         return codici.join(u',');
     }
     QColor colore() const { return mappa_->grab().toImage().pixelColor(60, 10); }
@@ -74,9 +72,8 @@ private Q_SLOTS:
     void bordiSoloNelDisegno() {
         QCOMPARE(mappa_->findChild<QFrame*>(u"POL_1"_s)->frameShape(), QFrame::Box);
         mappa_->onLoad();
-        for (const QFrame* uno : mappa_->findChildren<QFrame*>()) {
+        for (const QFrame* uno : mappa_->findChildren<QFrame*>())
             QCOMPARE(uno->frameShape(), QFrame::NoFrame);
-        }
     }
 
     void figureDellaMappa() {

@@ -27,9 +27,8 @@ public:
     /// The captions of the thumbnails, in order.
     QString elenco() const {
         QStringList testi;
-        for (const QString& chiave : immagini().nodeKeys()) {
+        for (const QString& chiave : immagini().nodeKeys())
             testi += immagini().nodeText(chiave);
-        }
         return testi.join(u' ');
     }
     void gruppo(const QString& chiave) const { clicca(cartelle(), chiave); }
@@ -47,11 +46,9 @@ public:
 private:
     static QRect posto(const toolkit::ImageTree& albero, const QString& chiave) {
         QTreeWidgetItemIterator uno(const_cast<toolkit::ImageTree*>(&albero));
-        for (; *uno != nullptr; ++uno) {
-            if (albero.keyAt(albero.visualItemRect(*uno).center()) == chiave) {
+        for (; *uno != nullptr; ++uno)
+            if (albero.keyAt(albero.visualItemRect(*uno).center()) == chiave)
                 return albero.visualItemRect(*uno);
-            }
-        }
         return {};
     }
     static void clicca(toolkit::ImageTree& albero, const QString& chiave) {
@@ -68,9 +65,8 @@ public:
         if (evento->type() == QEvent::Paint && visto->objectName() == u"Status"_s) {
             const QString testo = qobject_cast<QLabel*>(visto)->text();
             titolo = qobject_cast<QLabel*>(visto)->window()->windowTitle();
-            if (testi.isEmpty() || testi.last() != testo) {
+            if (testi.isEmpty() || testi.last() != testo)
                 testi.append(testo);
-            }
         }
         return false;
     }
@@ -104,9 +100,8 @@ private Q_SLOTS:
         QCOMPARE(palette.elenco(), u"[2]"_s); // the chest's
         QCOMPARE(palette.immagini().selectedKey(), palette.immagini().nodeKey(1));
         QStringList gruppi;
-        for (const QString& chiave : palette.cartelle().nodeKeys()) {
+        for (const QString& chiave : palette.cartelle().nodeKeys())
             gruppi += chiave + u'=' + palette.cartelle().nodeText(chiave);
-        }
         QCOMPARE(gruppi, QStringList({u"root=Elenco Completo"_s, u"ADD=Addominali"_s, u"QUA=Cosce"_s,
                                       u"GLU=Glutei"_s, u"PET=Pettorali"_s, u"VUO=Vuoto"_s}));
     }
@@ -120,9 +115,8 @@ private Q_SLOTS:
     }
     void avanzamento() {
         QFETCH(int, aggiunte);
-        for (int i = 0; i < aggiunte; ++i) {
+        for (int i = 0; i < aggiunte; ++i)
             addFigure(program(), 10 + i, 10 + i, u"GLU"_s, u"Q/%1.JPG"_s.arg(10 + i));
-        }
         Avanzamento avanzamento;
         const Palette palette = apri();
         QCOMPARE(palette.elenco(), u"[2]"_s);
@@ -280,11 +274,9 @@ private Q_SLOTS:
         QVERIFY(qAbs(form.outerWidth() - 5850) <= 15 && qAbs(form.outerHeight() - 6150) <= 15);
         form.LoadImage({});
         QVERIFY(quadro().isEmpty());
-        for (const QString& pulsante : {u"ZoomPiu"_s, u"ZoomMeno"_s}) {
-            for (int i = 0; i < 200; ++i) {
+        for (const QString& pulsante : {u"ZoomPiu"_s, u"ZoomMeno"_s})
+            for (int i = 0; i < 200; ++i)
                 ingrandita().find<QAbstractButton>(pulsante).click(); // up to where it ends, without an error
-            }
-        }
         QCOMPARE(errorOf([&form] { return form.LoadImage(u"\\images\\manca.JPG"_s), 0; }),
                  int(runtime::FileNotFound));
     }

@@ -20,10 +20,9 @@ void fuzz::days(const QByteArray& input) {
     require(error == (text.mid(length).contains(u'1') ? runtime::SubscriptOutOfRange : 0),
             "a tick behind the list is an error, and nothing else is");
     QString wanted(length, u'0');
-    for (int i = 0; i < within.size(); ++i) {
+    for (int i = 0; i < within.size(); ++i)
         if (within[i] == u'1')
             wanted[i] = u'1';
-    }
     const QString read = GGAllenHELPER::leggiGGAllen(list);
     require(read == wanted, "the ticks are the string's");
     FakeCheckList again(length);

@@ -31,12 +31,11 @@ void fuzz::dialect(const QByteArray& input) {
     require(store::translate(result) == result, "a translated statement stays as it is");
 
     QStringList before = quoted(sql);
-    for (const QString& text : quoted(result)) {
+    for (const QString& text : quoted(result))
         if (!before.isEmpty() && text == before.first())
             before.removeFirst();
         else
             require(isLiteral(text), "only date literals become quoted texts");
-    }
     require(before.isEmpty(), "quoted texts are all still there");
     if (!sql.contains(u'#') && !sql.contains(u"delete"_s, Qt::CaseInsensitive))
         require(result == sql, "a statement without the dialect's forms is not touched");

@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+using namespace Qt::StringLiterals;
+
 // One program for each target, which the build names QUIVERDECK_FUZZ_TARGET. A broken rule is an exception
 // that nothing catches: libFuzzer keeps the input in a file.
 
@@ -21,7 +23,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
         return 0;
     int n = 0;
     for (const QByteArray& picture : fuzz::pictureSeeds()) {
-        QFile file(QDir((*argv)[1]).filePath(QStringLiteral("seed-%1").arg(n++)));
+        QFile file(QDir((*argv)[1]).filePath(u"seed-%1"_s.arg(n++)));
         if (file.open(QIODevice::WriteOnly))
             file.write(picture);
     }

@@ -13,10 +13,9 @@ namespace {
 /// The longest numeric prefix, read by the standard library.
 double prefix(const QString& text) {
     std::string plain;
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (!c.isSpace())
             plain += c.unicode() < 0x80 ? static_cast<char>(c.unicode()) : '?';
-    }
     const bool plus = plain.starts_with('+');
     const std::string number = plain.substr(plus ? 1 : 0);
     const std::size_t first = !plus && number.starts_with('-') ? 1 : 0;

@@ -9,11 +9,13 @@
 
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 /// What is accepted must open: the windows raise at a date or at training days that are none, and the page
 /// reads the lines that it stands on.
 void fuzz::sidefile(const QByteArray& input) {
     static const QTemporaryDir folder;
-    const FileSospeso file(folder.filePath(QStringLiteral("splash.ps.aperta")));
+    const FileSospeso file(folder.filePath(u"splash.ps.aperta"_s));
     require(file.scrivi(input) && file.leggi() == input, "the file gives back its bytes");
 
     const auto read = SchedaSospesa::leggi(input);

@@ -9,6 +9,8 @@
 #include <csignal>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 // Set by the sanitizers' runtime where it is linked: what to do before it ends the process.
 extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
 
@@ -32,23 +34,21 @@ void reportDeath() {
 class Generator {
 public:
     explicit Generator(QList<QByteArray> corpus) : corpus_(std::move(corpus)), random_(seed) {
-        static const QRegularExpression word(QStringLiteral("[A-Za-z]+|[0-9]+|."),
+        static const QRegularExpression word(u"[A-Za-z]+|[0-9]+|."_s,
                                              QRegularExpression::DotMatchesEverythingOption);
-        for (const QByteArray& text : corpus_) {
+        for (const QByteArray& text : corpus_)
             for (auto all = word.globalMatch(QString::fromLatin1(text)); all.hasNext();)
                 words_ += all.next().captured().toLatin1();
-        }
         words_ += QByteArray("-1 256 29 1.5 0000 32767 32768 2147483647 2147483648 1e999").split(' ');
     }
 
     QByteArray next() {
         QByteArray input;
-        if (random_.bounded(4) == 0) {
+        if (random_.bounded(4) == 0)
             for (int n = random_.bounded(1, 12); n > 0; --n)
                 input += any(words_);
-        } else {
+        else
             input = any(corpus_);
-        }
         for (int n = random_.bounded(4); n > 0; --n)
             mutate(input);
         return input;
@@ -79,8 +79,7 @@ private:
 };
 
 QList<QByteArray> corpusOf(const QString& target) {
-    const QDir folder(qEnvironmentVariable("QUIVERDECK_SOURCE") + QStringLiteral("/tests/fuzz/corpus/") +
-                      target);
+    const QDir folder(qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/tests/fuzz/corpus/"_s + target);
     QList<QByteArray> corpus;
     for (const QString& name : folder.entryList(QDir::Files, QDir::Name)) {
         QFile file(folder.filePath(name));
@@ -118,8 +117,7 @@ private Q_SLOTS:
         QFETCH(Target, run);
         QFETCH(int, times);
         const QString name = QString::fromLatin1(QTest::currentDataTag());
-        const QList<QByteArray> corpus =
-            name == QStringLiteral("pictures") ? fuzz::pictureSeeds() : corpusOf(name);
+        const QList<QByteArray> corpus = name == u"pictures"_s ? fuzz::pictureSeeds() : corpusOf(name);
         QVERIFY(!corpus.isEmpty());
         Generator generator(corpus);
         const int all = qEnvironmentVariableIsSet("QUIVERDECK_LONG") ? times * 100 : times;

@@ -109,10 +109,9 @@ int weight(const QWidget& control) {
         {QRegularExpression(u"/(qt_|client$|Frame|Label|eti)"_s), 1},
     };
     const QString place = windowOf(control) + u'/' + control.objectName();
-    for (const auto& [name, heavy] : byName) {
+    for (const auto& [name, heavy] : byName)
         if (name.match(place).hasMatch())
             return heavy;
-    }
     const bool button = qobject_cast<const QAbstractButton*>(&control) != nullptr;
     return control.focusPolicy() != Qt::NoFocus || button ? 5 : 1;
 }
@@ -137,11 +136,10 @@ bool isField(const QWidget& control) {
 /// By name and not by address: the same in every run.
 QWidgetList openWindows() {
     QWidgetList windows;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
+    for (QWidget* window : QApplication::topLevelWidgets())
         if (window->isVisible() && window->windowType() != Qt::ToolTip && window->isEnabled() &&
             !window->objectName().isEmpty())
             windows.append(window);
-    }
     std::sort(windows.begin(), windows.end(), [](const QWidget* one, const QWidget* other) {
         return one->objectName() < other->objectName();
     });
@@ -162,10 +160,9 @@ Act Hands::choose() {
         if (qobject_cast<QMessageBox*>(modal) != nullptr && !buttons.isEmpty() && dice_.chance(90))
             return onControl(*dice_.pick(buttons));
         // The guide stays within reach.
-        for (QWidget* window : openWindows()) {
+        for (QWidget* window : openWindows())
             if (window->windowHandle()->transientParent() == modal->windowHandle() && dice_.chance(20))
                 return onWindow(*window);
-        }
         return onWindow(*modal);
     }
     const QWidgetList windows = openWindows();
@@ -377,11 +374,10 @@ Act Hands::dragFrom(QWidget& control, const QPoint& from, const QPoint& to) {
 Act Hands::drop() {
     std::vector<QWidget*> targets;
     for (QWidget* window : openWindows()) {
-        for (QWidget* control : window->findChildren<QWidget*>()) {
+        for (QWidget* control : window->findChildren<QWidget*>())
             if (control->acceptDrops() && control->isVisible() &&
                 control->objectName().startsWith("figura"_L1))
                 targets.push_back(control);
-        }
     }
     QWidget* window = QApplication::activeWindow();
     QWidget* target = !targets.empty() && dice_.chance(85) ? dice_.pick(targets) : window;
@@ -421,10 +417,9 @@ void Hands::mouse(QWidget& control, QEvent::Type type, const QPoint& where) {
 
 void Hands::pressKey(QWindow* window, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
     const QPointer<QWindow> target(window);
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
         if (target)
             qt_handleKeyEvent(target, type, key, modifiers, text);
-    }
 }
 
 } // namespace monkey

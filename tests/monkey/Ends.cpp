@@ -72,10 +72,9 @@ bool timesBeyond16Bits() {
 /// The front window's list has no selected line.
 bool nothingSelected() {
     const QWidget* front = QApplication::activeModalWidget();
-    for (const QWidget* window : QApplication::topLevelWidgets()) { // the report's own box is in front
+    for (const QWidget* window : QApplication::topLevelWidgets()) // the report's own box is in front
         if (window->isVisible() && window->objectName().contains("Selezione"_L1))
             front = window;
-    }
     const auto* list = front == nullptr ? nullptr : front->findChild<toolkit::ReportList*>(u"LW"_s);
     return list != nullptr && !list->hasSelection();
 }

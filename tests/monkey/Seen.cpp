@@ -108,11 +108,10 @@ QStringList lost(const QJsonObject& before, const QJsonObject& now) {
 }
 
 QString windowOf(const QWidget& control) {
-    for (const QWidget* widget = &control; widget != nullptr; widget = widget->parentWidget()) {
+    for (const QWidget* widget = &control; widget != nullptr; widget = widget->parentWidget())
         if (qobject_cast<const toolkit::Form*>(widget) != nullptr ||
             qobject_cast<const QDialog*>(widget) != nullptr)
             return widget->objectName();
-    }
     return QString::fromLatin1(control.window()->metaObject()->className());
 }
 

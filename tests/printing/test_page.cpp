@@ -133,10 +133,9 @@ private Q_SLOTS:
         QVERIFY((note.rect().topLeft() - expected.topLeft()).manhattanLength() < 1e-6);
         QCOMPARE(note.rect().size(), expected.size());
         QStringList shown;
-        for (const QString& name : sheet::elementiDelBlocco()) {
+        for (const QString& name : sheet::elementiDelBlocco())
             if (window.surface.element(name, 2).visible)
                 shown << name;
-        }
         shown.sort();
         QCOMPARE(shown, QStringList({"note", "nprog"}));
         QVERIFY(frame.visible);

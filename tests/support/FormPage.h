@@ -20,9 +20,8 @@ public:
         QStringList all;
         for (int line = 0; line < list().count(); ++line) {
             QStringList cells;
-            for (int column = 0; column < list().model()->columnCount(); ++column) {
+            for (int column = 0; column < list().model()->columnCount(); ++column)
                 cells.append(list().cell(line, column));
-            }
             all.append(cells.join(QLatin1Char('|')));
         }
         return all;

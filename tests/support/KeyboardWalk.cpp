@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Parts of a control, and pages, which only hold controls.
@@ -23,21 +25,18 @@ QString nameOf(const QWidget& control) {
 
 QList<const QWidget*> stops(const QWidget& window) {
     QList<const QWidget*> found;
-    for (const QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+    for (const QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
         if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisible() && next->isEnabled() &&
-            next->window() == &window && !isPart(*next)) {
+            next->window() == &window && !isPart(*next))
             found.append(next);
-        }
-    }
     return found;
 }
 
 /// From the window down to the control.
 QList<const QWidget*> ancestry(const QWidget* control) {
     QList<const QWidget*> line;
-    for (; control != nullptr; control = control->parentWidget()) {
+    for (; control != nullptr; control = control->parentWidget())
         line.prepend(control);
-    }
     return line;
 }
 
@@ -47,18 +46,16 @@ QRect placeOf(const QWidget& control) {
 
 bool readsBefore(const QRect& first, const QRect& second) {
     const int shared = std::min(first.bottom(), second.bottom()) - std::max(first.top(), second.top());
-    if (2 * shared >= std::max(first.height(), second.height())) { // one row
+    if (2 * shared >= std::max(first.height(), second.height())) // one row
         return first.left() <= second.left();
-    }
     const bool nextColumn = second.left() >= first.right();
     return second.top() >= first.top() || nextColumn;
 }
 
 /// Tab goes round in a page of the editor and does not leave it.
 const QWidget* pageOf(const QWidget* control) {
-    while (!control->isWindow() && qobject_cast<const toolkit::Form*>(control) == nullptr) {
+    while (!control->isWindow() && qobject_cast<const toolkit::Form*>(control) == nullptr)
         control = control->parentWidget();
-    }
     return control;
 }
 
@@ -67,13 +64,11 @@ const QWidget* pageOf(const QWidget* control) {
 QStringList namelessControls(const QWidget& window) {
     QStringList names;
     for (QWidget* control : window.findChildren<QWidget*>()) {
-        if (control->focusPolicy() == Qt::NoFocus || !control->isVisible() || isPart(*control)) {
+        if (control->focusPolicy() == Qt::NoFocus || !control->isVisible() || isPart(*control))
             continue;
-        }
         const QAccessibleInterface* told = QAccessible::queryAccessibleInterface(control);
-        if (told == nullptr || told->text(QAccessible::Name).trimmed().isEmpty()) {
+        if (told == nullptr || told->text(QAccessible::Name).trimmed().isEmpty())
             names.append(nameOf(*control));
-        }
     }
     return names;
 }
@@ -82,18 +77,15 @@ QStringList leapsOfTab(const QWidget& window) {
     QStringList leaps;
     const auto all = stops(window);
     for (qsizetype i = 1; i < all.size(); ++i) {
-        if (pageOf(all[i - 1]) != pageOf(all[i])) {
+        if (pageOf(all[i - 1]) != pageOf(all[i]))
             continue;
-        }
         const auto before = ancestry(all[i - 1]);
         const auto after = ancestry(all[i]);
         qsizetype depth = 0;
-        while (depth + 1 < std::min(before.size(), after.size()) && before[depth] == after[depth]) {
+        while (depth + 1 < std::min(before.size(), after.size()) && before[depth] == after[depth])
             ++depth;
-        }
-        if (!readsBefore(placeOf(*before[depth]), placeOf(*after[depth]))) {
-            leaps.append(nameOf(*all[i - 1]) + QStringLiteral(" -> ") + nameOf(*all[i]));
-        }
+        if (!readsBefore(placeOf(*before[depth]), placeOf(*after[depth])))
+            leaps.append(nameOf(*all[i - 1]) + u" -> "_s + nameOf(*all[i]));
     }
     return leaps;
 }

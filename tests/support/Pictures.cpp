@@ -12,10 +12,8 @@
 using namespace Qt::StringLiterals;
 
 void givePictures(const ScratchProgram& program) {
-    for (const QString& row :
-         program.rows(u"SELECT max(id_fig), substr(figura, 8) FROM figure GROUP BY 2"_s)) {
+    for (const QString& row : program.rows(u"SELECT max(id_fig), substr(figura, 8) FROM figure GROUP BY 2"_s))
         givePicture(program, row.section(u'|', 1), colourOfFigure(row.section(u'|', 0, 0).toInt()));
-    }
     givePicture(program, u"FolderXP.JPG"_s, Qt::yellow);
     givePicture(program, u"BodyMap/corpo.JPG"_s, colourOfMap({}));
     for (const char* code : codiciMuscoli()) {
@@ -28,9 +26,8 @@ void givePicture(const ScratchProgram& program, QString file, const QColor& colo
     const QString path = program.folder() + u"/images/"_s + file.replace(u'\\', u'/');
     QImage picture(30, 30, QImage::Format_RGB32);
     picture.fill(colour);
-    if (!QDir().mkpath(QFileInfo(path).path()) || !picture.save(path, "JPG", 100)) {
+    if (!QDir().mkpath(QFileInfo(path).path()) || !picture.save(path, "JPG", 100))
         throw std::runtime_error("cannot write " + path.toStdString());
-    }
 }
 
 void addFigure(const ScratchProgram& program, int id_fig, double numero, const QString& muscolo,

@@ -13,6 +13,8 @@
 #include <memory>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto smallRows = R"(
@@ -58,13 +60,12 @@ QByteArray read(const QString& path) {
 
 } // namespace
 
-ScratchProgram::ScratchProgram() : folder_(root_.filePath(QStringLiteral("Palestra è qui/Quiverdeck"))) {
+ScratchProgram::ScratchProgram() : folder_(root_.filePath(u"Palestra è qui/Quiverdeck"_s)) {
     if (!QDir().mkpath(folder_) || !QDir().mkpath(settingsFolder()))
         throw std::runtime_error("no scratch folder");
     const auto database = open(store(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     run(database, "BEGIN");
-    run(database,
-        read(QString::fromLocal8Bit(qgetenv("QUIVERDECK_SOURCE")) + QStringLiteral("/data/schema.sql")));
+    run(database, read(QString::fromLocal8Bit(qgetenv("QUIVERDECK_SOURCE")) + u"/data/schema.sql"_s));
     run(database, smallRows);
     run(database, "COMMIT");
     host::setProgramDirectory(folder_);
@@ -82,7 +83,7 @@ QString ScratchProgram::store() const {
 }
 
 QString ScratchProgram::settingsFolder() const {
-    return root_.filePath(QStringLiteral("impostazioni"));
+    return root_.filePath(u"impostazioni"_s);
 }
 
 void ScratchProgram::sql(const QString& statements) const {
@@ -96,7 +97,7 @@ QStringList ScratchProgram::rows(const QString& query) const {
         [](void* target, int count, char** values, char** /*names*/) {
             QStringList cells;
             for (int i = 0; i < count; ++i)
-                cells += values[i] ? QString::fromUtf8(values[i]) : QStringLiteral("NULL");
+                cells += values[i] ? QString::fromUtf8(values[i]) : u"NULL"_s;
             static_cast<QStringList*>(target)->append(cells.join(u'|'));
             return 0;
         },
@@ -105,16 +106,16 @@ QStringList ScratchProgram::rows(const QString& query) const {
 }
 
 QStringList ScratchProgram::log() const {
-    const QString path = folder_ + QStringLiteral("/log.txt");
+    const QString path = folder_ + u"/log.txt"_s;
     if (!QFile::exists(path))
         return {};
     constexpr qsizetype stampLength = 22; // "[dd/MM/yyyy hh:mm:ss] "
-    QStringList lines = QString::fromUtf8(read(path)).split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
+    QStringList lines = QString::fromUtf8(read(path)).split(u"\r\n"_s, Qt::SkipEmptyParts);
     for (QString& line : lines)
         line.remove(0, stampLength);
     return lines;
 }
 
 void ScratchProgram::clearLog() const {
-    QFile::remove(folder_ + QStringLiteral("/log.txt"));
+    QFile::remove(folder_ + u"/log.txt"_s);
 }

@@ -3,6 +3,8 @@
 #include <QDebug>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool offers(host::Buttons buttons, host::Answer answer) {
@@ -65,9 +67,9 @@ host::Answer ScriptedBoxes::show(host::Icon icon, const QString& text, host::But
         }
     }
     ++unexpected_;
-    onUnexpected(QStringLiteral("unexpected box, icon %1, buttons %2: \"%3\"; expected: \"%4\"")
-                     .arg(static_cast<int>(icon))
-                     .arg(static_cast<int>(buttons))
-                     .arg(text, expected_.empty() ? QStringLiteral("none") : expected_.front().text));
+    onUnexpected(
+        u"unexpected box, icon %1, buttons %2: \"%3\"; expected: \"%4\""_s.arg(static_cast<int>(icon))
+            .arg(static_cast<int>(buttons))
+            .arg(text, expected_.empty() ? u"none"_s : expected_.front().text));
     return dismissal(buttons);
 }

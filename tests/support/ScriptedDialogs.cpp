@@ -5,9 +5,8 @@
 bool ScriptedPrinterDialog::choose(QPrinter& printer, toolkit::PrintRange& range) {
     ++calls;
     asked = range;
-    if (pdf.isEmpty()) {
+    if (pdf.isEmpty())
         return false;
-    }
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(pdf);
     printer.setPageSize(QPageSize(QPageSize::A4));

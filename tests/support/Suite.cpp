@@ -32,9 +32,8 @@ int suite::run(int argc, char** argv) {
         return 255;
     }
     int failures = 0;
-    for (const auto& [name, test] : entries()) {
+    for (const auto& [name, test] : entries())
         if (!name.startsWith(QLatin1String("--")))
             failures += test(argc, argv);
-    }
     return failures;
 }

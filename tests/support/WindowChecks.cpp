@@ -16,6 +16,8 @@
 #include <QTabBar>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A line editor keeps 2 pixels on either side, and one for the caret.
@@ -27,11 +29,9 @@ class Walk {
 public:
     explicit Walk(const QWidget& window) {
         const QList<QWidget*> all = window.findChildren<QWidget*>();
-        for (const QWidget* widget : all) {
-            if (widget->isVisible()) {
+        for (const QWidget* widget : all)
+            if (widget->isVisible())
                 check(*widget);
-            }
-        }
     }
 
     QStringList cut;
@@ -41,11 +41,9 @@ private:
         if (needed > room) {
             QString name = widget.objectName();
             for (const QWidget* up = widget.parentWidget(); name.isEmpty() && up != nullptr;
-                 up = up->parentWidget()) {
+                 up = up->parentWidget())
                 name = up->objectName();
-            }
-            cut.append(
-                QStringLiteral("%1: \"%2\" needs %3 pixels, has %4").arg(name, text).arg(needed).arg(room));
+            cut.append(u"%1: \"%2\" needs %3 pixels, has %4"_s.arg(name, text).arg(needed).arg(room));
         }
     }
 
@@ -59,9 +57,8 @@ private:
 
     void check(const QWidget& widget) {
         if (const auto* label = qobject_cast<const toolkit::Label*>(&widget)) {
-            if (!label->isWhole()) {
+            if (!label->isWhole())
                 tell(widget, label->text(), width(widget, label->text()), 0);
-            }
             height(widget, label->text(), label->height());
             inside(widget, label->text());
         } else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
@@ -107,9 +104,8 @@ private:
     }
 
     void checkButton(const QAbstractButton& button) {
-        if (button.text().isEmpty()) {
+        if (button.text().isEmpty())
             return;
-        }
         inside(button, button.text());
         if (qobject_cast<const QToolButton*>(&button) != nullptr) {
             tell(button, button.text(), button.sizeHint().width(), button.width());
@@ -122,11 +118,10 @@ private:
         option.icon = button.icon();
         option.iconSize = button.iconSize();
         QStyle::SubElement contents = QStyle::SE_PushButtonContents;
-        if (qobject_cast<const QRadioButton*>(&button) != nullptr) {
+        if (qobject_cast<const QRadioButton*>(&button) != nullptr)
             contents = QStyle::SE_RadioButtonContents;
-        } else if (qobject_cast<const QCheckBox*>(&button) != nullptr) {
+        else if (qobject_cast<const QCheckBox*>(&button) != nullptr)
             contents = QStyle::SE_CheckBoxContents;
-        }
         const QRect room = button.style()->subElementRect(contents, &option, &button);
         const int icon = button.icon().isNull() ? 0 : button.iconSize().width() + 4;
         tell(button, button.text(), width(button, button.text()) + icon, room.width());
@@ -141,9 +136,8 @@ private:
         const QRect field =
             combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
         const int margins = combo.isEditable() ? lineMargins : 0;
-        for (int item = 0; item < combo.count(); ++item) {
+        for (int item = 0; item < combo.count(); ++item)
             tell(combo, combo.itemText(item), width(combo, combo.itemText(item)) + margins, field.width());
-        }
         tell(combo, combo.currentText(), width(combo, combo.currentText()) + margins, field.width());
         height(combo, combo.currentText(), field.height());
     }

@@ -16,37 +16,35 @@
 #include <QMimeData>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 void WindowPage::fail(const QString& what) const {
-    const QByteArray text = QStringLiteral("%1: %2").arg(window_.objectName(), what).toUtf8();
+    const QByteArray text = u"%1: %2"_s.arg(window_.objectName(), what).toUtf8();
     QTest::qFail(text.constData(), __FILE__, __LINE__);
     throw std::runtime_error(text.toStdString());
 }
 
 QWidget& WindowPage::widget(const QString& name) const {
     const QList<QWidget*> found = window_.findChildren<QWidget*>(name);
-    if (found.isEmpty()) {
-        fail(QStringLiteral("no control named ") + name);
-    }
+    if (found.isEmpty())
+        fail(u"no control named "_s + name);
     return *found.constFirst();
 }
 
 QWidget& WindowPage::ready(const QString& name) const {
     QWidget& control = widget(name);
-    if (!control.isVisible()) {
-        fail(name + QStringLiteral(" does not show"));
-    }
-    if (!control.isEnabled()) {
-        fail(name + QStringLiteral(" is disabled"));
-    }
+    if (!control.isVisible())
+        fail(name + u" does not show"_s);
+    if (!control.isEnabled())
+        fail(name + u" is disabled"_s);
     return control;
 }
 
 void WindowPage::press(const QString& name) const {
     QWidget& control = ready(name);
     QPoint where = control.rect().center();
-    if (qobject_cast<QAbstractButton*>(&control) != nullptr) {
+    if (qobject_cast<QAbstractButton*>(&control) != nullptr)
         where = QPoint(std::min(where.x(), 12), where.y()); // an option answers only on its picture and text
-    }
     QTest::mouseClick(&control, Qt::LeftButton, {}, where);
 }
 
@@ -54,22 +52,19 @@ void WindowPage::type(const QString& name, const QString& text) const {
     QWidget& control = ready(name);
     QWidget* inside = &control;
     if (const auto* combo = qobject_cast<QComboBox*>(&control);
-        combo != nullptr && combo->lineEdit() != nullptr) {
+        combo != nullptr && combo->lineEdit() != nullptr)
         inside = combo->lineEdit();
-    } else if (auto* area = qobject_cast<QPlainTextEdit*>(&control)) {
+    else if (auto* area = qobject_cast<QPlainTextEdit*>(&control))
         inside = area->viewport();
-    }
     QTest::mouseClick(inside, Qt::LeftButton, {}, QPoint(4, inside->height() / 2));
-    if (auto* line = qobject_cast<QLineEdit*>(inside)) {
+    if (auto* line = qobject_cast<QLineEdit*>(inside))
         line->selectAll();
-    } else if (auto* area = qobject_cast<QPlainTextEdit*>(&control)) {
+    else if (auto* area = qobject_cast<QPlainTextEdit*>(&control))
         area->selectAll();
-    }
-    if (text.isEmpty()) {
+    if (text.isEmpty())
         QTest::keyClick(&control, Qt::Key_Backspace);
-    } else {
+    else
         QTest::keyClicks(&control, text);
-    }
 }
 
 void WindowPage::typeOn(const QString& name, const QString& text) const {
@@ -84,37 +79,32 @@ void WindowPage::choose(const QString& name, const QString& item) const {
     ready(name);
     auto& combo = find<QComboBox>(name);
     const int wanted = combo.findText(item, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (wanted < 0) {
-        fail(name + QStringLiteral(" has no item ") + item);
-    }
+    if (wanted < 0)
+        fail(name + u" has no item "_s + item);
     combo.setFocus();
     // By keys only; one step more and back makes a choice even of the item that is chosen already.
-    for (int step = combo.currentIndex(); step > 0; --step) {
+    for (int step = combo.currentIndex(); step > 0; --step)
         QTest::keyClick(&combo, Qt::Key_Up);
-    }
     if (wanted == 0) {
         QTest::keyClick(&combo, Qt::Key_Down);
         QTest::keyClick(&combo, Qt::Key_Up);
     }
-    while (combo.currentIndex() < wanted) {
+    while (combo.currentIndex() < wanted)
         QTest::keyClick(&combo, Qt::Key_Down);
-    }
 }
 
 void WindowPage::clickLine(const QString& name, int line, int times) const {
     ready(name);
     auto& list = find<toolkit::ReportList>(name);
     int column = 0;
-    while (list.isColumnHidden(column)) {
+    while (list.isColumnHidden(column))
         ++column;
-    }
     const QModelIndex index = list.model()->index(line, column);
     list.scrollTo(index);
     const QPoint where = list.visualRect(index).center();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, where);
-    if (times > 1) {
+    if (times > 1)
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, where);
-    }
 }
 
 void WindowPage::clickHeader(const QString& name, int column) const {
@@ -137,13 +127,11 @@ bool WindowPage::drop(const QString& name, const QString& text) const {
     data.setText(text);
     const QPoint middle = control.rect().center();
     QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    if (!control.acceptDrops()) {
+    if (!control.acceptDrops())
         return false;
-    }
     QApplication::sendEvent(&control, &enter);
-    if (!enter.isAccepted()) {
+    if (!enter.isAccepted())
         return false;
-    }
     QDropEvent dropEvent(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&control, &dropEvent);
     return dropEvent.isAccepted();
@@ -151,23 +139,17 @@ bool WindowPage::drop(const QString& name, const QString& text) const {
 
 QString WindowPage::text(const QString& name) const {
     QWidget& control = widget(name);
-    if (const auto* line = qobject_cast<QLineEdit*>(&control)) {
+    if (const auto* line = qobject_cast<QLineEdit*>(&control))
         return line->text();
-    }
-    if (const auto* area = qobject_cast<QPlainTextEdit*>(&control)) {
+    if (const auto* area = qobject_cast<QPlainTextEdit*>(&control))
         return area->toPlainText();
-    }
-    if (const auto* combo = qobject_cast<QComboBox*>(&control)) {
+    if (const auto* combo = qobject_cast<QComboBox*>(&control))
         return combo->currentText();
-    }
-    if (const auto* label = qobject_cast<QLabel*>(&control)) {
+    if (const auto* label = qobject_cast<QLabel*>(&control))
         return label->text();
-    }
-    if (const auto* date = qobject_cast<QDateEdit*>(&control)) {
+    if (const auto* date = qobject_cast<QDateEdit*>(&control))
         return date->text();
-    }
-    if (const auto* button = qobject_cast<QAbstractButton*>(&control)) {
+    if (const auto* button = qobject_cast<QAbstractButton*>(&control))
         return button->text();
-    }
-    fail(name + QStringLiteral(" shows no text"));
+    fail(name + u" shows no text"_s);
 }

@@ -20,9 +20,8 @@ public:
     QWidget& widget(const QString& name) const;
     template <class T> T& find(const QString& name) const {
         auto* found = dynamic_cast<T*>(&widget(name));
-        if (found == nullptr) {
+        if (found == nullptr)
             fail(name + QStringLiteral(" is of another kind"));
-        }
         return *found;
     }
 

@@ -26,9 +26,8 @@ void WindowTest::init() {
 
 void WindowTest::cleanup() {
     inChiusura = true;
-    if (mdiScheda::esiste()) {
+    if (mdiScheda::esiste())
         mdiScheda::comune().puoiChiudere = true;
-    }
     toolkit::Form::destroyAll();
     toolkit::Application::purge();
     azzera();

@@ -17,9 +17,8 @@ public:
     QString elenco() const {
         const auto& lista = find<toolkit::ReportList>(u"LW"_s);
         QStringList righe;
-        for (int i = 0; i < lista.count(); ++i) {
+        for (int i = 0; i < lista.count(); ++i)
             righe += lista.cell(i, 0) + u'=' + lista.cell(i, 1);
-        }
         return righe.join(u' ');
     }
 };
@@ -55,12 +54,9 @@ private Q_SLOTS:
         const Selezione pagina;
         QCOMPARE(nomeModelloSelezionato, QString());
         QStringList spenti;
-        for (const QString& chiave :
-             {u"seleziona"_s, u"annulla"_s, u"nuova"_s, u"modifica"_s, u"elimina"_s}) {
-            if (!pagina.isEnabled(chiave)) {
+        for (const QString& chiave : {u"seleziona"_s, u"annulla"_s, u"nuova"_s, u"modifica"_s, u"elimina"_s})
+            if (!pagina.isEnabled(chiave))
                 spenti += chiave;
-            }
-        }
         QTEST(spenti.join(u' '), "spenti");
     }
 
@@ -95,13 +91,12 @@ private Q_SLOTS:
         whenModal([&tasto](toolkit::Form&) {
             const Selezione pagina;
             pagina.clickLine(u"LW"_s, 1);
-            if (tasto.isEmpty()) {
+            if (tasto.isEmpty())
                 QTest::keyClick(&pagina.window(), Qt::Key_Escape);
-            } else if (tasto == u"LW"_s) {
+            else if (tasto == u"LW"_s)
                 pagina.clickLine(tasto, 1, 2);
-            } else {
+            else
                 pagina.press(tasto);
-            }
         });
         SchedeMODELLOSelezione::comune().showModal();
         QTEST(idModelloSelezionato, "risposta");

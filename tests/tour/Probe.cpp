@@ -132,10 +132,9 @@ QMessageBox* shownBox() {
 
 QWidget* buttonOf(const QWidget* window, const QString& text) {
     const auto buttons = window->findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons) {
+    for (QAbstractButton* button : buttons)
         if (button->isVisible() && button->text().remove('&') == text)
             return button;
-    }
     return nullptr;
 }
 

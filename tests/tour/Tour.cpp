@@ -178,10 +178,9 @@ void Tour::box(const QString& text, const QString& button, const QString& pictur
 void Tour::window(const QString& name) {
     until("the window " + name, [&] {
         const QJsonArray list = ask("windows")["windows"].toArray();
-        for (const QJsonValue& entry : list) {
+        for (const QJsonValue& entry : list)
             if (entry["name"].toString() == name && entry["active"].toBool())
                 return true;
-        }
         return false;
     });
 }

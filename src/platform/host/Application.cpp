@@ -1,9 +1,11 @@
 #include "platform/host/Application.h"
 
+using namespace Qt::StringLiterals;
+
 namespace host {
 
 QString title() {
-    return QStringLiteral("Quiver-Deck");
+    return u"Quiver-Deck"_s;
 }
 
 qint16 versionMajor() {
@@ -19,7 +21,7 @@ qint16 versionRevision() {
 }
 
 QString versionText() {
-    return QStringLiteral("%1.%2.%3").arg(versionMajor()).arg(versionMinor()).arg(versionRevision());
+    return u"%1.%2.%3"_s.arg(versionMajor()).arg(versionMinor()).arg(versionRevision());
 }
 
 } // namespace host

@@ -4,6 +4,8 @@
 
 #include <QProcess>
 
+using namespace Qt::StringLiterals;
+
 namespace host {
 
 void startProcess(const QString& program, const QStringList& arguments) {
@@ -15,7 +17,7 @@ void startProcess(const QString& program, const QStringList& arguments) {
     process.setStandardErrorFile(QProcess::nullDevice());
     if (program.isEmpty() || !process.startDetached())
         runtime::raise(runtime::FileNotFound,
-                       runtime::standardDescription(runtime::FileNotFound) + QStringLiteral(": ") + program);
+                       runtime::standardDescription(runtime::FileNotFound) + u": "_s + program);
 }
 
 } // namespace host

@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace host {
 
 namespace {
@@ -16,10 +18,9 @@ QString& replacement() {
 /// The name in `folder` that equals `name` but for its case; `name` itself if there is none.
 QString nameInFolder(const QString& folder, const QString& name) {
     const auto names = QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
-    for (const QString& candidate : names) {
+    for (const QString& candidate : names)
         if (candidate.compare(name, Qt::CaseInsensitive) == 0)
             return candidate;
-    }
     return name;
 }
 
@@ -52,7 +53,7 @@ QString resolve(const QString& storedPath) {
     QString rest = behindHome ? storedPath.mid(home.size()) : storedPath;
     rest.replace(u'\\', u'/');
     if (!behindHome && storedPath.startsWith(u'/'))
-        base = QStringLiteral("/");
+        base = u"/"_s;
     const QString exact = QDir::cleanPath(base + u'/' + rest);
     if (QFileInfo::exists(exact))
         return exact;
@@ -60,7 +61,7 @@ QString resolve(const QString& storedPath) {
     const auto segments = QDir::cleanPath(u'/' + rest).split(u'/', Qt::SkipEmptyParts);
     for (const QString& segment : segments) {
         const QString folder = found;
-        found = folder + (folder.endsWith(u'/') ? QString() : QStringLiteral("/")) + segment;
+        found = folder + (folder.endsWith(u'/') ? QString() : u"/"_s) + segment;
         if (!QFileInfo::exists(found))
             found = QDir(folder).filePath(nameInFolder(folder, segment));
     }

@@ -2,6 +2,8 @@
 
 #include "platform/runtime/Error.h"
 
+using namespace Qt::StringLiterals;
+
 namespace host {
 
 namespace {
@@ -13,7 +15,7 @@ template <class Service> Service*& installed() {
 
 template <class Service> Service& required() {
     if (!installed<Service>())
-        runtime::raise(runtime::InvalidCall, QStringLiteral("Servizio del desktop non disponibile"));
+        runtime::raise(runtime::InvalidCall, u"Servizio del desktop non disponibile"_s);
     return *installed<Service>();
 }
 

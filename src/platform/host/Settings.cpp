@@ -6,6 +6,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace host {
 
 namespace {
@@ -17,7 +19,7 @@ QString& folderReplacement() {
 
 /// The INI format writes keys without a group under [General].
 QString keyPath(const QString& section, const QString& key) {
-    return section == QStringLiteral("General") ? key : section + u'/' + key;
+    return section == u"General"_s ? key : section + u'/' + key;
 }
 
 } // namespace
@@ -26,7 +28,7 @@ QString settingsFile() {
     const QString folder = folderReplacement().isEmpty()
                                ? QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
                                : folderReplacement();
-    return folder + u'/' + title() + QStringLiteral(".ini");
+    return folder + u'/' + title() + u".ini"_s;
 }
 
 void setSettingsFolder(const QString& folder) {
@@ -39,7 +41,7 @@ void saveSetting(const QString& section, const QString& key, const QString& valu
     settings.sync();
     if (settings.status() != QSettings::NoError)
         runtime::raise(runtime::PathFileAccess,
-                       QStringLiteral("Impossibile scrivere le impostazioni: ") + settings.fileName());
+                       u"Impossibile scrivere le impostazioni: "_s + settings.fileName());
 }
 
 QString readSetting(const QString& section, const QString& key) {

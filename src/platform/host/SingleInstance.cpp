@@ -9,6 +9,8 @@
 
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace host {
 
 namespace {
@@ -27,14 +29,13 @@ QString nameFor(const QString& folder) {
     QString place = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (!QFileInfo(place).isWritable() || place.size() > longestPlace)
         place = QDir::tempPath();
-    return place + QStringLiteral("/quiverdeck-%1-%2").arg(getuid()).arg(QString::fromLatin1(digest));
+    return place + u"/quiverdeck-%1-%2"_s.arg(getuid()).arg(QString::fromLatin1(digest));
 }
 
 } // namespace
 
 SingleInstance::SingleInstance(const QString& folder, QObject* parent)
-    : QObject(parent), name_(nameFor(folder)),
-      lock_(std::make_unique<QLockFile>(name_ + QStringLiteral(".lock"))) {
+    : QObject(parent), name_(nameFor(folder)), lock_(std::make_unique<QLockFile>(name_ + u".lock"_s)) {
     // A lock is never too old; only a dead owner gives it up.
     lock_->setStaleLockTime(0);
     first_ = lock_->tryLock(0) || lock_->error() != QLockFile::LockFailedError;

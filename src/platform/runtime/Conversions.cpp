@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace runtime {
 
 namespace {
@@ -33,10 +35,9 @@ bool isDigit(QChar c) {
 std::optional<double> parse(const QString& text) {
     QString plain = text.trimmed();
     plain.replace(u',', u'.');
-    for (const QChar c : plain) {
+    for (const QChar c : plain)
         if (!isDigit(c) && !QStringView(u"+-.eE").contains(c))
             return std::nullopt;
-    }
     bool ok = false;
     const double value = plain.toDouble(&ok);
     if (!ok)
@@ -68,10 +69,9 @@ qint16 mul16(qint16 a, qint16 b) {
 
 double leadingNumber(const QString& text) {
     QString plain;
-    for (const QChar c : text) {
+    for (const QChar c : text)
         if (!c.isSpace())
             plain += c;
-    }
     qsizetype end = 0;
     const auto digits = [&plain](qsizetype from) {
         while (from < plain.size() && isDigit(plain[from]))
@@ -127,24 +127,22 @@ std::optional<quint8> wholeByte(const QString& text) {
 
 bool textToBoolean(const QString& text) {
     const QString word = text.trimmed();
-    for (const auto yes : {u"True", u"Vero"}) {
+    for (const auto yes : {u"True", u"Vero"})
         if (word.compare(QStringView(yes), Qt::CaseInsensitive) == 0)
             return true;
-    }
-    for (const auto no : {u"False", u"Falso"}) {
+    for (const auto no : {u"False", u"Falso"})
         if (word.compare(QStringView(no), Qt::CaseInsensitive) == 0)
             return false;
-    }
     return strictNumber(text) != 0.0;
 }
 
 QString booleanText(bool value) {
-    return value ? QStringLiteral("True") : QStringLiteral("False");
+    return value ? u"True"_s : u"False"_s;
 }
 
 QString numberText(double value) {
     if (value == 0.0)
-        return QStringLiteral("0"); // also for the negative zero
+        return u"0"_s; // also for the negative zero
     return QString::number(value, 'f', QLocale::FloatingPointShortest);
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace runtime {
 
 Error::Error(int number, QString description, QString source)
@@ -11,29 +13,29 @@ Error::Error(int number, QString description, QString source)
 QString standardDescription(int number) {
     switch (number) {
     case InvalidCall:
-        return QStringLiteral("Chiamata o valore non ammesso");
+        return u"Chiamata o valore non ammesso"_s;
     case Overflow:
-        return QStringLiteral("Numero troppo grande per il campo che lo deve contenere");
+        return u"Numero troppo grande per il campo che lo deve contenere"_s;
     case SubscriptOutOfRange:
-        return QStringLiteral("Posizione fuori dall’elenco");
+        return u"Posizione fuori dall’elenco"_s;
     case TypeMismatch:
-        return QStringLiteral("Il valore non è del tipo richiesto");
+        return u"Il valore non è del tipo richiesto"_s;
     case FileNotFound:
-        return QStringLiteral("File non trovato");
+        return u"File non trovato"_s;
     case PathFileAccess:
-        return QStringLiteral("Impossibile accedere al file");
+        return u"Impossibile accedere al file"_s;
     case ObjectNotSet:
-        return QStringLiteral("Oggetto non assegnato");
+        return u"Oggetto non assegnato"_s;
     case InvalidUseOfNull:
-        return QStringLiteral("Manca un valore che non può essere vuoto (Null)");
+        return u"Manca un valore che non può essere vuoto (Null)"_s;
     case InvalidPropertyValue:
-        return QStringLiteral("Valore della proprietà non valido");
+        return u"Valore della proprietà non valido"_s;
     case ElementNotFound:
-        return QStringLiteral("Elemento non trovato");
+        return u"Elemento non trovato"_s;
     case Cancelled:
-        return QStringLiteral("Operazione annullata");
+        return u"Operazione annullata"_s;
     default:
-        return QStringLiteral("Errore dell’applicazione");
+        return u"Errore dell’applicazione"_s;
     }
 }
 
@@ -41,7 +43,7 @@ void raise(int number, QString description, QString source) {
     if (description.isEmpty())
         description = standardDescription(number);
     if (source.isEmpty())
-        source = QStringLiteral("Quiverdeck");
+        source = u"Quiverdeck"_s;
     throw Error(number, std::move(description), std::move(source));
 }
 

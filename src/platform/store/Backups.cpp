@@ -198,10 +198,9 @@ QList<Backups::Copy> Backups::copies() const {
 }
 
 std::optional<Backups::Copy> Backups::newestGood() const {
-    for (const Copy& copy : copies()) {
+    for (const Copy& copy : copies())
         if (isGood(copy.path))
             return copy;
-    }
     return {};
 }
 

@@ -10,6 +10,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 namespace {
@@ -72,7 +74,7 @@ class File {
 public:
     explicit File(QByteArray path) : path_(std::move(path)) {
         if (!readStamp(path_, stamp_))
-            throw Error(SQLITE_CANTOPEN, QStringLiteral("file non trovato: ") + QFile::decodeName(path_));
+            throw Error(SQLITE_CANTOPEN, u"file non trovato: "_s + QFile::decodeName(path_));
         sqlite3* handle = nullptr;
         const int code = sqlite3_open_v2(path_.constData(), &handle, SQLITE_OPEN_READWRITE, nullptr);
         database_.reset(handle);
@@ -82,8 +84,8 @@ public:
         sqlite3_busy_timeout(handle, busyTimeoutMs);
         // A misspelt name is an error, never a text.
         sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-        run(QStringLiteral("PRAGMA journal_mode=DELETE"));
-        run(QStringLiteral("PRAGMA synchronous=FULL"));
+        run(u"PRAGMA journal_mode=DELETE"_s);
+        run(u"PRAGMA synchronous=FULL"_s);
         renewStamp();
     }
 
@@ -117,10 +119,9 @@ public:
                                declaredType(sqlite3_column_decltype(statement.get(), i))});
         std::vector<Cell> cells;
         int code = SQLITE_ROW;
-        while ((code = sqlite3_step(statement.get())) == SQLITE_ROW) {
+        while ((code = sqlite3_step(statement.get())) == SQLITE_ROW)
             for (int i = 0; i < count; ++i)
                 cells.push_back(readCell(statement.get(), i));
-        }
         if (code != SQLITE_DONE)
             fail(code, sql);
         return {std::move(columns), std::move(cells)};
@@ -145,10 +146,10 @@ private:
         if (code != SQLITE_OK)
             fail(code, sql);
         if (!statement)
-            throw Error(SQLITE_ERROR, QStringLiteral("istruzione vuota"), sql);
+            throw Error(SQLITE_ERROR, u"istruzione vuota"_s, sql);
         const auto rest = QByteArrayView(tail, text.constData() + text.size()).trimmed();
         if (!rest.isEmpty())
-            throw Error(SQLITE_ERROR, QStringLiteral("testo dopo la fine dell’istruzione"), sql);
+            throw Error(SQLITE_ERROR, u"testo dopo la fine dell’istruzione"_s, sql);
         return statement;
     }
 

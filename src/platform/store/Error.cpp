@@ -4,6 +4,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 namespace {
@@ -12,32 +14,31 @@ QString reason(int code) {
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
-        return QStringLiteral("L’archivio è occupato da un altro programma");
+        return u"L’archivio è occupato da un altro programma"_s;
     case SQLITE_CANTOPEN:
-        return QStringLiteral("Impossibile aprire l’archivio");
+        return u"Impossibile aprire l’archivio"_s;
     case SQLITE_READONLY:
     case SQLITE_PERM:
-        return QStringLiteral("L’archivio è di sola lettura");
+        return u"L’archivio è di sola lettura"_s;
     case SQLITE_NOTADB:
     case SQLITE_CORRUPT:
-        return QStringLiteral("Il file dell’archivio è danneggiato o non è un archivio");
+        return u"Il file dell’archivio è danneggiato o non è un archivio"_s;
     case SQLITE_FULL:
-        return QStringLiteral("Spazio su disco esaurito");
+        return u"Spazio su disco esaurito"_s;
     case SQLITE_IOERR:
-        return QStringLiteral("Errore di lettura o scrittura dell’archivio");
+        return u"Errore di lettura o scrittura dell’archivio"_s;
     case SQLITE_CONSTRAINT:
-        return QStringLiteral("Il valore non è ammesso dall’archivio");
+        return u"Il valore non è ammesso dall’archivio"_s;
     case SQLITE_ERROR:
-        return QStringLiteral("Istruzione non riconosciuta dall’archivio");
+        return u"Istruzione non riconosciuta dall’archivio"_s;
     default:
-        return QStringLiteral("Errore dell’archivio");
+        return u"Errore dell’archivio"_s;
     }
 }
 
 } // namespace
 
 Error::Error(int code, const QString& detail, QString sql)
-    : runtime::Error(code, reason(code) + QStringLiteral(" (") + detail + u')', QStringLiteral("splash.ps")),
-      sql_(std::move(sql)) {}
+    : runtime::Error(code, reason(code) + u" ("_s + detail + u')', u"splash.ps"_s), sql_(std::move(sql)) {}
 
 } // namespace store

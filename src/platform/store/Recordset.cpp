@@ -6,6 +6,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace store {
 
 namespace {
@@ -60,27 +62,26 @@ Recordset::Recordset(std::vector<Column> columns, std::vector<Cell> cells)
 
 void Recordset::MoveNext() {
     if (EOF_())
-        runtime::raise(NoCurrentRecord, QStringLiteral("Nessuna riga da leggere"));
+        runtime::raise(NoCurrentRecord, u"Nessuna riga da leggere"_s);
     ++row_;
 }
 
 Field Recordset::at(std::size_t column) const {
     if (EOF_())
-        runtime::raise(NoCurrentRecord, QStringLiteral("Nessuna riga da leggere"));
+        runtime::raise(NoCurrentRecord, u"Nessuna riga da leggere"_s);
     return {columns_[column], cells_[static_cast<std::size_t>(row_) * columns_.size() + column]};
 }
 
 Field Recordset::Fields(QStringView name) const {
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
+    for (std::size_t i = 0; i < columns_.size(); ++i)
         if (name.compare(columns_[i].name, Qt::CaseInsensitive) == 0)
             return at(i);
-    }
-    runtime::raise(NoSuchField, QStringLiteral("Colonna non trovata: ") + name.toString());
+    runtime::raise(NoSuchField, u"Colonna non trovata: "_s + name.toString());
 }
 
 Field Recordset::Fields(int number) const {
     if (number < 0 || number >= FieldCount())
-        runtime::raise(NoSuchField, QStringLiteral("Colonna non trovata: ") + QString::number(number));
+        runtime::raise(NoSuchField, u"Colonna non trovata: "_s + QString::number(number));
     return at(static_cast<std::size_t>(number));
 }
 

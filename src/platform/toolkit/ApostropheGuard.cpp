@@ -7,9 +7,8 @@ QString ApostropheGuard::guarded(QString text) {
 }
 
 QValidator::State ApostropheGuard::validate(QString& input, int& /*position*/) const {
-    if (!paused_) {
+    if (!paused_)
         input = guarded(input);
-    }
     return Acceptable;
 }
 

@@ -18,6 +18,8 @@
 #include <cmath>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
@@ -62,13 +64,11 @@ bool& scaleIsOurs() {
 } // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
-    if (scaleIsOurs()) {
+    if (scaleIsOurs())
         qunsetenv(scaleVariable); // ours alone: a program started from here scales by itself
-    }
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
-    if (italian.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    if (italian.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         installTranslator(&italian);
-    }
     setAttribute(Qt::AA_DontUseNativeDialogs);
     setAttribute(Qt::AA_DontUseNativeMenuBar);
     setStyle(new QuiverStyle);
@@ -87,18 +87,15 @@ double Application::scaleFor(const QSize& available) {
 }
 
 void Application::prepareScale(int& argc, char** argv) {
-    for (const char* name : {scaleVariable, "QT_SCREEN_SCALE_FACTORS"}) {
-        if (qEnvironmentVariableIsSet(name)) {
+    for (const char* name : {scaleVariable, "QT_SCREEN_SCALE_FACTORS"})
+        if (qEnvironmentVariableIsSet(name))
             return;
-        }
-    }
     double scale = 1.0;
     {
         const QGuiApplication probe(argc, argv);
         const QScreen* screen = QGuiApplication::primaryScreen();
-        if (screen != nullptr && screen->devicePixelRatio() <= 1.0) {
+        if (screen != nullptr && screen->devicePixelRatio() <= 1.0)
             scale = scaleFor(screen->availableSize());
-        }
     }
     if (scale > 1.0) {
         qputenv(scaleVariable, QByteArray::number(scale));
@@ -107,9 +104,8 @@ void Application::prepareScale(int& argc, char** argv) {
 }
 
 void Application::fatal(int number, const QString& description) {
-    if (eventObserver()) {
+    if (eventObserver())
         eventObserver()(true);
-    }
     if (fatalHandler()) {
         fatalHandler()(number, description);
         return;
@@ -118,8 +114,7 @@ void Application::fatal(int number, const QString& description) {
     if (!reporting) {
         reporting = true;
         try {
-            MessageBoxes().show(host::Icon::Critical,
-                                QStringLiteral("Errore %1\n\n%2").arg(number).arg(description),
+            MessageBoxes().show(host::Icon::Critical, u"Errore %1\n\n%2"_s.arg(number).arg(description),
                                 host::Buttons::Ok);
         } catch (...) { // nothing is left to tell it to
         }
@@ -148,16 +143,15 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     const QScopedValueRollback<int> delivering(loop, std::max(loop, level));
     try {
         const bool handled = Validation::stops(receiver, event) || QApplication::notify(receiver, event);
-        if (observed && eventObserver()) {
+        if (observed && eventObserver())
             eventObserver()(false);
-        }
         return handled;
     } catch (const runtime::Error& error) {
         fatal(error.number(), error.description());
     } catch (const std::exception& error) {
         fatal(0, QString::fromLocal8Bit(error.what()));
     } catch (...) {
-        fatal(0, QStringLiteral("Errore sconosciuto"));
+        fatal(0, u"Errore sconosciuto"_s);
     }
     return false;
 }

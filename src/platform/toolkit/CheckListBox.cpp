@@ -20,9 +20,8 @@ void CheckListBox::addItem(const QString& text) {
 
 QListWidgetItem& CheckListBox::at(int index) const {
     QListWidgetItem* found = item(index);
-    if (found == nullptr) {
+    if (found == nullptr)
         runtime::raise(runtime::SubscriptOutOfRange, {}, objectName());
-    }
     return *found;
 }
 

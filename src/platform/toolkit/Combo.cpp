@@ -45,16 +45,14 @@ void Combo::addItem(const QString& text) {
     if (first) { // a list that gets its first item chooses nothing by that
         const QString shown = isEditable() ? lineEdit()->text() : QString();
         setCurrentIndex(-1);
-        if (isEditable() && !shown.isEmpty() && shown != text) {
+        if (isEditable() && !shown.isEmpty() && shown != text)
             setEditText(shown);
-        }
     }
 }
 
 void Combo::addItems(const QStringList& texts) {
-    for (const QString& text : texts) {
+    for (const QString& text : texts)
         addItem(text);
-    }
 }
 
 int Combo::index() const {
@@ -62,24 +60,20 @@ int Combo::index() const {
 }
 
 void Combo::showItem(int index) {
-    if (guard_ != nullptr) {
+    if (guard_ != nullptr)
         guard_->pause(true);
-    }
     setCurrentIndex(index);
-    if (isEditable()) {
+    if (isEditable())
         setEditText(index < 0 ? QString() : itemText(index)); // the same item under another text
-    }
-    if (guard_ != nullptr) {
+    if (guard_ != nullptr)
         guard_->pause(false);
-    }
 }
 
 void Combo::setText(const QString& text) {
     const int found = findText(text, exactly);
     if (!isEditable()) {
-        if (found < 0) {
+        if (found < 0)
             runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
-        }
         setCurrentIndex(found);
         return;
     }
@@ -87,23 +81,19 @@ void Combo::setText(const QString& text) {
         showItem(found);
         return;
     }
-    if (guard_ != nullptr) {
+    if (guard_ != nullptr)
         guard_->pause(true);
-    }
     setEditText(text);
-    if (guard_ != nullptr) {
+    if (guard_ != nullptr)
         guard_->pause(false);
-    }
 }
 
 void Combo::selectIndex(int index) {
-    if (index < -1 || index >= count()) {
+    if (index < -1 || index >= count())
         runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
-    }
     showItem(index);
-    if (index >= 0) {
+    if (index >= 0)
         Q_EMIT clicked();
-    }
 }
 
 void Combo::guardApostrophes() {
@@ -138,16 +128,14 @@ void Combo::wheelEvent(QWheelEvent* event) {
 
 void Combo::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
-    if (betweenControls(event->reason())) {
+    if (betweenControls(event->reason()))
         Q_EMIT gotFocus();
-    }
 }
 
 void Combo::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
-    if (betweenControls(event->reason())) {
+    if (betweenControls(event->reason()))
         Q_EMIT lostFocus();
-    }
 }
 
 } // namespace toolkit

@@ -7,13 +7,15 @@
 #include <QFocusEvent>
 #include <QWheelEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 DatePicker::DatePicker(const QString& name, QWidget* parent) : QDateEdit(QDate::currentDate(), parent) {
     setObjectName(name);
     setLocale(QLocale(QLocale::Italian, QLocale::Italy));
     setDateRange(QDate(1753, 1, 1), QDate(9999, 12, 31));
-    setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    setDisplayFormat(u"dd/MM/yyyy"_s);
     setCalendarPopup(true);
     calendarWidget()->setLocale(locale());
     calendarWidget()->setFirstDayOfWeek(Qt::Monday);
@@ -22,9 +24,8 @@ DatePicker::DatePicker(const QString& name, QWidget* parent) : QDateEdit(QDate::
 }
 
 void DatePicker::setValue(QDate date) {
-    if (!date.isValid() || date < minimumDate() || date > maximumDate()) {
+    if (!date.isValid() || date < minimumDate() || date > maximumDate())
         runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
-    }
     setDate(date);
 }
 
@@ -34,16 +35,14 @@ void DatePicker::wheelEvent(QWheelEvent* event) {
 
 void DatePicker::focusInEvent(QFocusEvent* event) {
     QDateEdit::focusInEvent(event);
-    if (betweenControls(event->reason())) {
+    if (betweenControls(event->reason()))
         Q_EMIT gotFocus();
-    }
 }
 
 void DatePicker::focusOutEvent(QFocusEvent* event) {
     QDateEdit::focusOutEvent(event);
-    if (betweenControls(event->reason())) {
+    if (betweenControls(event->reason()))
         Q_EMIT lostFocus();
-    }
 }
 
 } // namespace toolkit

@@ -9,9 +9,8 @@ namespace toolkit {
 
 QWidget* dialogOwner() {
     QWidget* window = QApplication::activeWindow();
-    if (qobject_cast<QDialog*>(window) != nullptr) {
+    if (qobject_cast<QDialog*>(window) != nullptr)
         return window;
-    }
     const auto* form = qobject_cast<Form*>(window);
     return form != nullptr && !form->isGone() ? window : Form::active();
 }

@@ -13,9 +13,8 @@ void waitForExposure(const QWidget& window, int milliseconds) {
     const QDeadlineTimer patience(milliseconds);
     QTimer tick; // ends the waiting below
     tick.start(20);
-    while (window.isVisible() && !window.windowHandle()->isExposed() && !patience.hasExpired()) {
+    while (window.isVisible() && !window.windowHandle()->isExposed() && !patience.hasExpired())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
-    }
 }
 
 } // namespace toolkit

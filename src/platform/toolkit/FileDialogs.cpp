@@ -12,6 +12,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
@@ -21,11 +23,10 @@ constexpr QSize previewSize(200, 200); // logical pixels
 /// Shows the marked picture at the dialog's right side, or why it cannot be shown.
 void addPreview(QFileDialog& dialog) {
     auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
-    if (grid == nullptr) {
+    if (grid == nullptr)
         return;
-    }
     auto* preview = new QLabel(&dialog);
-    preview->setObjectName(QStringLiteral("preview"));
+    preview->setObjectName(u"preview"_s);
     preview->setFixedWidth(previewSize.width() + 10);
     preview->setAlignment(Qt::AlignCenter);
     preview->setWordWrap(true);
@@ -33,16 +34,15 @@ void addPreview(QFileDialog& dialog) {
     grid->addWidget(preview, 1, grid->columnCount());
     QObject::connect(&dialog, &QFileDialog::currentChanged, preview, [preview](const QString& path) {
         preview->clear();
-        if (!QFileInfo(path).isFile()) {
+        if (!QFileInfo(path).isFile())
             return;
-        }
         try {
             const pictures::PictureFile file(path, pictures::PictureFile::Literal);
             const bool fits =
                 file.size().width() <= previewSize.width() && file.size().height() <= previewSize.height();
             preview->setPixmap(QPixmap::fromImage(fits ? file.whole() : file.fitted(previewSize)));
         } catch (const runtime::Error&) {
-            preview->setText(QStringLiteral("Nessuna anteprima"));
+            preview->setText(u"Nessuna anteprima"_s);
         }
     });
 }
@@ -54,15 +54,15 @@ QStringList FileDialogs::nameFilters(const QString& filter) {
     const QStringList parts = filter.split(QLatin1Char('|'));
     for (qsizetype part = 0; part + 1 < parts.size(); part += 2) {
         QString patterns = parts.at(part + 1);
-        filters.append(QStringLiteral("%1 (%2)").arg(parts.at(part),
-                                                     patterns.replace(QLatin1Char(';'), QLatin1Char(' '))));
+        filters.append(
+            u"%1 (%2)"_s.arg(parts.at(part), patterns.replace(QLatin1Char(';'), QLatin1Char(' '))));
     }
     return filters;
 }
 
 QString FileDialogs::openFile(const QString& filter, const QString& folder) {
     QFileDialog dialog(dialogOwner(), host::title());
-    dialog.setObjectName(QStringLiteral("fileDialog"));
+    dialog.setObjectName(u"fileDialog"_s);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(nameFilters(filter));
@@ -74,9 +74,8 @@ QString FileDialogs::openFile(const QString& filter, const QString& folder) {
     const QString start = folder.isEmpty() ? lastFolder_ : folder;
     dialog.setDirectory(start.isEmpty() ? QDir::homePath() : start);
     const Hourglass::Pause pause;
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
-    }
     QString file = dialog.selectedFiles().constFirst();
     lastFolder_ = QFileInfo(file).absolutePath();
     return file;

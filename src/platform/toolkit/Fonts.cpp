@@ -3,22 +3,21 @@
 #include <QStringList>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
 
 QStringList families(const QString& family) {
     const QString name = family.toLower();
-    if (name == QLatin1String("verdana") || name == QLatin1String("tahoma")) {
-        return {family, QStringLiteral("DejaVu Sans")};
-    }
-    if (name == QLatin1String("times new roman")) {
-        return {family, QStringLiteral("Liberation Serif")};
-    }
-    if (name == QLatin1String("arial")) {
-        return {family, QStringLiteral("Liberation Sans")};
-    }
-    return {QStringLiteral("Liberation Sans"), QStringLiteral("Arial")};
+    if (name == QLatin1String("verdana") || name == QLatin1String("tahoma"))
+        return {family, u"DejaVu Sans"_s};
+    if (name == QLatin1String("times new roman"))
+        return {family, u"Liberation Serif"_s};
+    if (name == QLatin1String("arial"))
+        return {family, u"Liberation Sans"_s};
+    return {u"Liberation Sans"_s, u"Arial"_s};
 }
 
 } // namespace
@@ -33,7 +32,7 @@ QFont font(const QString& family, double points, bool bold) {
 }
 
 QFont formFont() {
-    return font(QStringLiteral("MS Sans Serif"), 8.25);
+    return font(u"MS Sans Serif"_s, 8.25);
 }
 
 } // namespace toolkit

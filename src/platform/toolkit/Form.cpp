@@ -17,6 +17,8 @@
 #include <QWindow>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
@@ -28,7 +30,7 @@ constexpr int mapPatience = 1000;
 
 Form::Form(const QString& name) : client_(new QWidget(this)) {
     setObjectName(name);
-    client_->setObjectName(QStringLiteral("client"));
+    client_->setObjectName(u"client"_s);
     setWindowFlags(Qt::Window);
     setAutoFillBackground(true); // a page must not show the frame's colour
     OpenForms::all().add(this);
@@ -44,9 +46,8 @@ QWidget* Form::outer() const {
 }
 
 QSize Form::frameExtra() const {
-    if (frame_) {
+    if (frame_)
         return {2 * ChildFrame::border, ChildFrame::titleHeight + ChildFrame::border};
-    }
     return isVisible() ? frameGeometry().size() - size() : QSize(0, 0);
 }
 
@@ -88,9 +89,8 @@ void Form::setOuterSize(double width, double height) {
     sized_ = true;
     inner_ = QSize();
     const QSize pixels(toPixels(width), toPixels(height));
-    if (!frame_ && !isVisible()) {
+    if (!frame_ && !isVisible())
         outerWanted_ = pixels;
-    }
     resizeOuter(pixels);
 }
 
@@ -129,27 +129,24 @@ void Form::centre() {
 void Form::addTopBar(QWidget* bar) {
     bar->setParent(this);
     bars_.addTop(bar);
-    if (sized_) {
+    if (sized_)
         resizeOuter(size() + frameExtra() + QSize(0, bar->sizeHint().height()));
-    }
     arrange();
 }
 
 void Form::addBottomBar(QWidget* bar) {
     bar->setParent(this);
     bars_.addBottom(bar);
-    if (sized_) {
+    if (sized_)
         resizeOuter(size() + frameExtra() + QSize(0, bar->sizeHint().height()));
-    }
     arrange();
 }
 
 void Form::arrange() {
     const QSize before = client_->size();
     client_->setGeometry(bars_.arrange(size()));
-    if (client_->size() != before && state_ == State::Loaded) {
+    if (client_->size() != before && state_ == State::Loaded)
         onResize();
-    }
 }
 
 void Form::setResizable(bool resizable) {
@@ -183,17 +180,15 @@ void Form::setParentForm(ParentForm& parent) {
 }
 
 void Form::setPointer(Pointer pointer) {
-    if (pointer == Pointer::Hourglass) {
+    if (pointer == Pointer::Hourglass)
         setCursor(Qt::WaitCursor);
-    } else {
+    else
         unsetCursor();
-    }
 }
 
 void Form::load() {
-    if (state_ != State::Design) {
+    if (state_ != State::Design)
         return;
-    }
     state_ = State::Loading;
     ensurePolished();
     try {
@@ -203,9 +198,8 @@ void Form::load() {
         throw;
     }
     if (state_ == State::Loading) {
-        if (inner_.isValid() && !maximised_) {
+        if (inner_.isValid() && !maximised_)
             resizeInner(); // bars grow with the pictures they get meanwhile
-        }
         state_ = State::Loaded;
         arrange();
     }
@@ -213,9 +207,8 @@ void Form::load() {
 
 void Form::show() {
     setVisible(true);
-    if (!isVisible()) {
+    if (!isVisible())
         return;
-    }
     if (frame_) {
         parentForm_->area()->setActiveSubWindow(frame_);
     } else {
@@ -231,20 +224,17 @@ void Form::setVisible(bool visible) {
             return;
         }
         QWidget::setVisible(false);
-        if (loop_ != nullptr) {
+        if (loop_ != nullptr)
             endModal();
-        } else {
+        else
             leaveActivation();
-        }
         return;
     }
-    if (isVisible()) {
+    if (isVisible())
         return;
-    }
     load();
-    if (state_ == State::Gone) {
+    if (state_ == State::Gone)
         return;
-    }
     if (frame_) {
         QWidget::setVisible(true);
         frame_->setVisible(true);
@@ -252,9 +242,8 @@ void Form::setVisible(bool visible) {
         prepareWindow();
         QWidget::setVisible(true);
         waitForWindow();
-        if (outerWanted_.isValid()) {
+        if (outerWanted_.isValid())
             resizeOuter(std::exchange(outerWanted_, QSize())); // now that the frame is known
-        }
     }
     onResize();
     activate();
@@ -280,27 +269,23 @@ void Form::prepareWindow() {
     if (modal_) {
         const Form* owner = active();
         winId();
-        if (owner != nullptr && owner != this && windowHandle() != nullptr) {
+        if (owner != nullptr && owner != this && windowHandle() != nullptr)
             windowHandle()->setTransientParent(owner->windowHandle());
-        }
     }
 }
 
 void Form::waitForWindow() {
-    if ((!maximised_ && !outerWanted_.isValid()) || QGuiApplication::platformName() != QLatin1String("xcb")) {
+    if ((!maximised_ && !outerWanted_.isValid()) || QGuiApplication::platformName() != QLatin1String("xcb"))
         return;
-    }
     waitForExposure(*this, mapPatience);
 }
 
 void Form::showModal() {
-    if (loop_ != nullptr || frame_) {
-        runtime::raise(5, QStringLiteral("La finestra è già aperta."), objectName());
-    }
+    if (loop_ != nullptr || frame_)
+        runtime::raise(5, u"La finestra è già aperta."_s, objectName());
     load();
-    if (state_ == State::Gone) {
+    if (state_ == State::Gone)
         return;
-    }
     modal_ = true;
     QEventLoop loop;
     loop_ = &loop;
@@ -318,18 +303,16 @@ void Form::showModal() {
         }
         throw;
     }
-    if (!self) {
+    if (!self)
         return;
-    }
     loop_ = nullptr;
     modal_ = false;
     leaveActivation();
 }
 
 void Form::endModal() {
-    if (loop_ != nullptr) {
+    if (loop_ != nullptr)
         loop_->quit();
-    }
 }
 
 void Form::activate() {
@@ -337,9 +320,8 @@ void Form::activate() {
         onActivate();
         return;
     }
-    if (active() == this && isActiveWindow()) {
+    if (active() == this && isActiveWindow())
         return;
-    }
     OpenForms::all().activated(this);
     onActivate();
 }
@@ -358,14 +340,12 @@ Form* Form::active() {
 }
 
 bool Form::unload() {
-    if (unloading_ || state_ == State::Design || state_ == State::Gone) {
+    if (unloading_ || state_ == State::Design || state_ == State::Gone)
         return true;
-    }
     {
         const QScopedValueRollback<bool> guard(unloading_, true);
-        if (!unloadPages() || !onQueryUnload()) {
+        if (!unloadPages() || !onQueryUnload())
             return false;
-        }
         onUnload();
     }
     finishUnload();
@@ -377,9 +357,8 @@ void Form::finishUnload() {
     if (frame_) {
         ChildFrame* frame = frame_;
         frame->hide();
-        if (parentForm_) {
+        if (parentForm_)
             parentForm_->area()->removeSubWindow(frame);
-        }
         frame->deleteLater(); // takes the page along
         return;
     }
@@ -388,18 +367,16 @@ void Form::finishUnload() {
 }
 
 void Form::destroyAll() {
-    while (Form* form = OpenForms::all().newest()) {
+    while (Form* form = OpenForms::all().newest())
         delete form->outer();
-    }
 }
 
 bool Form::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate && !frame_ && isVisible() && state_ == State::Loaded &&
         active() != this) {
         const auto* modal = qobject_cast<Form*>(QApplication::activeModalWidget());
-        if (modal == nullptr || modal == this) {
+        if (modal == nullptr || modal == this)
             activate();
-        }
     }
     return QWidget::event(event);
 }

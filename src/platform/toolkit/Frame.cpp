@@ -16,9 +16,8 @@ void Frame::setBorder(bool border) {
 }
 
 void Frame::paintEvent(QPaintEvent* /*event*/) {
-    if (!border_) {
+    if (!border_)
         return;
-    }
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(palette().color(QPalette::Mid), 1));
@@ -35,9 +34,8 @@ void Frame::paintEvent(QPaintEvent* /*event*/) {
 
 void Frame::mouseReleaseEvent(QMouseEvent* event) {
     QWidget::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         Q_EMIT clicked();
-    }
 }
 
 } // namespace toolkit

@@ -14,15 +14,13 @@ Hourglass::~Hourglass() {
 }
 
 Hourglass::Pause::Pause() {
-    for (; QGuiApplication::overrideCursor() != nullptr; ++paused_) {
+    for (; QGuiApplication::overrideCursor() != nullptr; ++paused_)
         QGuiApplication::restoreOverrideCursor();
-    }
 }
 
 Hourglass::Pause::~Pause() {
-    for (; paused_ > 0; --paused_) {
+    for (; paused_ > 0; --paused_)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    }
 }
 
 } // namespace toolkit

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPixmap>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
@@ -25,16 +27,14 @@ QImage onWhite(const QImage& picture, const QSize& size) {
 } // namespace
 
 void ImageList::setImageSize(const QSize& size) {
-    if (!entries_.empty() || size.isEmpty()) {
+    if (!entries_.empty() || size.isEmpty())
         runtime::raise(runtime::InvalidPropertyValue);
-    }
     size_ = size;
 }
 
 void ImageList::insert(const QString& key, Entry entry) {
-    if (positions_.contains(key)) {
-        runtime::raise(duplicateKey, QStringLiteral("La chiave \"%1\" è già presente.").arg(key));
-    }
+    if (positions_.contains(key))
+        runtime::raise(duplicateKey, u"La chiave \"%1\" è già presente."_s.arg(key));
     positions_.insert(key, count());
     entries_.push_back(std::move(entry));
 }
@@ -53,9 +53,8 @@ void ImageList::add(const QString& key, const QIcon& icon) {
 
 const ImageList::Entry& ImageList::entry(const QString& key) const {
     const auto found = positions_.constFind(key);
-    if (found == positions_.constEnd()) {
+    if (found == positions_.constEnd())
         runtime::raise(runtime::ElementNotFound, {}, key);
-    }
     return entries_[static_cast<std::size_t>(*found)];
 }
 
@@ -68,9 +67,8 @@ QIcon ImageList::icon(const QString& key) const {
 }
 
 QIcon ImageList::icon(int position) const {
-    if (position < 1 || position > count()) {
+    if (position < 1 || position > count())
         runtime::raise(runtime::SubscriptOutOfRange);
-    }
     return iconOf(entries_[static_cast<std::size_t>(position - 1)]);
 }
 

@@ -11,6 +11,8 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 ImageTree::ImageTree(const QString& name, QWidget* parent) : QTreeWidget(parent) {
@@ -33,28 +35,24 @@ ImageTree::ImageTree(const QString& name, QWidget* parent) : QTreeWidget(parent)
 void ImageTree::setImageList(const ImageList* images) {
     images_ = images;
     static_cast<ImageTreeDelegate*>(itemDelegate())->setImageList(images);
-    if (images != nullptr) {
+    if (images != nullptr)
         verticalScrollBar()->setSingleStep(std::max(8, images->imageSize().height() / 3));
-    }
     scheduleDelayedItemsLayout();
 }
 
 void ImageTree::addNode(const QString& key, const QString& text, const QString& image,
                         const QString& parent) {
-    if (byKey_.contains(key)) {
-        runtime::raise(ImageList::duplicateKey, QStringLiteral("La chiave \"%1\" è già presente.").arg(key));
-    }
-    if (images_ != nullptr && !images_->contains(image)) {
+    if (byKey_.contains(key))
+        runtime::raise(ImageList::duplicateKey, u"La chiave \"%1\" è già presente."_s.arg(key));
+    if (images_ != nullptr && !images_->contains(image))
         runtime::raise(runtime::ElementNotFound, {}, image);
-    }
     auto* item = new QTreeWidgetItem;
     item->setText(0, text);
     item->setData(0, ImageTreeDelegate::KeyRole, key);
     item->setData(0, ImageTreeDelegate::ImageRole, image);
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    if (payload_) {
+    if (payload_)
         flags |= Qt::ItemIsDragEnabled;
-    }
     item->setFlags(flags);
     if (parent.isEmpty()) {
         addTopLevelItem(item);
@@ -76,16 +74,14 @@ void ImageTree::clear() {
 
 QTreeWidgetItem& ImageTree::node(const QString& key) const {
     QTreeWidgetItem* found = byKey_.value(key);
-    if (found == nullptr) {
+    if (found == nullptr)
         runtime::raise(runtime::ElementNotFound, {}, key);
-    }
     return *found;
 }
 
 QString ImageTree::nodeKey(int position) const {
-    if (position < 1 || position > nodeCount()) {
+    if (position < 1 || position > nodeCount())
         runtime::raise(runtime::SubscriptOutOfRange, {}, objectName());
-    }
     return keys_[static_cast<std::size_t>(position - 1)];
 }
 
@@ -106,12 +102,10 @@ void ImageTree::setNodeTag(const QString& key, const QString& tag) {
 }
 
 void ImageTree::ensureVisible(const QString& key) {
-    for (QTreeWidgetItem* parent = node(key).parent(); parent != nullptr; parent = parent->parent()) {
+    for (QTreeWidgetItem* parent = node(key).parent(); parent != nullptr; parent = parent->parent())
         parent->setExpanded(true);
-    }
-    if (isVisible()) {
+    if (isVisible())
         scrollToItem(&node(key));
-    }
 }
 
 void ImageTree::select(const QString& key) {
@@ -140,9 +134,8 @@ void ImageTree::setDragSource(std::function<QString()> payload) {
 
 QMimeData* ImageTree::dragData() const {
     const QString text = payload_ ? payload_() : QString();
-    if (text.isEmpty()) {
+    if (text.isEmpty())
         return nullptr;
-    }
     auto* carried = new QMimeData;
     carried->setText(text);
     return carried;
@@ -150,9 +143,8 @@ QMimeData* ImageTree::dragData() const {
 
 void ImageTree::startDrag(Qt::DropActions /*actions*/) {
     QMimeData* carried = dragData();
-    if (carried == nullptr) {
+    if (carried == nullptr)
         return;
-    }
     auto* drag = new QDrag(this);
     drag->setMimeData(carried);
     if (images_ != nullptr && hasSelection()) {
@@ -182,9 +174,8 @@ void ImageTree::keyPressEvent(QKeyEvent* event) {
     const QString before = selectedKey();
     QTreeWidget::keyPressEvent(event);
     const QString now = selectedKey();
-    if (now != before && !now.isEmpty()) {
+    if (now != before && !now.isEmpty())
         Q_EMIT nodeClick(now);
-    }
 }
 
 } // namespace toolkit

@@ -39,9 +39,8 @@ void ImageTreeDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
 QSize ImageTreeDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const int line = option.fontMetrics.height() + gap;
     const int textWidth = option.fontMetrics.horizontalAdvance(index.data().toString()) + 2 * gap;
-    if (images_ == nullptr) {
+    if (images_ == nullptr)
         return {textWidth, line};
-    }
     const QSize size = images_->imageSize();
     return {size.width() + 2 * gap + textWidth, std::max(size.height() + 2, line)};
 }

@@ -24,19 +24,16 @@ Label::Label(const QString& name, const QString& caption, QWidget* parent) : QLa
 void Label::setHome(double left, double top, double width, double height) {
     home_ = toPixels(left, top, width, height);
     setGeometry(home_);
-    if (isVisible()) {
+    if (isVisible())
         fit();
-    }
 }
 
 void Label::setCaption(const QString& caption) {
-    if (caption == text()) {
+    if (caption == text())
         return;
-    }
     setText(caption);
-    if (isVisible()) {
+    if (isVisible())
         fit();
-    }
 }
 
 int Label::textWidth(const QFont& font) const {
@@ -55,14 +52,12 @@ QRect Label::freeRoom() const {
     room.setLeft(0);
     room.setRight(parentWidget()->width() - 1);
     const auto avoid = [this, &room](const QRect& other) {
-        if (other.contains(home_) || other.bottom() < home_.top() || other.top() > home_.bottom()) {
+        if (other.contains(home_) || other.bottom() < home_.top() || other.top() > home_.bottom())
             return;
-        }
-        if (other.left() > home_.left()) {
+        if (other.left() > home_.left())
             room.setRight(std::min(room.right(), std::max(home_.right(), other.left() - 1)));
-        } else {
+        else
             room.setLeft(std::max(room.left(), std::min(home_.left(), other.right() + 1)));
-        }
     };
     const QWidget* inside = this;
     for (const QWidget* parent = parentWidget(); parent != nullptr && !inside->isWindow();
@@ -82,9 +77,8 @@ QRect Label::freeRoom() const {
 }
 
 void Label::fit() {
-    if (home_.isNull()) {
+    if (home_.isNull())
         home_ = geometry();
-    }
     QFont plain = font();
     plain.setStretch(QFont::Unstretched);
     QRect place = home_;
@@ -106,9 +100,8 @@ void Label::fit() {
                 const int borders = 2 * (margin() + frameWidth());
                 int stretch = std::max(narrowestStretch, place.width() * 100 / needed);
                 plain.setStretch(stretch); // widths follow it only roughly
-                while (stretch > narrowestStretch && textWidth(plain) + borders > place.width()) {
+                while (stretch > narrowestStretch && textWidth(plain) + borders > place.width())
                     plain.setStretch(--stretch);
-                }
             }
         }
     }
@@ -116,12 +109,10 @@ void Label::fit() {
         const int needed = wrappedBox(place.width() - 2 * (margin() + frameWidth())).height();
         place.setHeight(std::clamp(needed, place.height(), place.height() + wrapAllowance));
     }
-    if (plain != font()) {
+    if (plain != font())
         setFont(plain);
-    }
-    if (place != geometry()) {
+    if (place != geometry())
         setGeometry(place);
-    }
 }
 
 bool Label::isWhole() const {
@@ -139,9 +130,8 @@ void Label::showEvent(QShowEvent* event) {
 
 void Label::mouseReleaseEvent(QMouseEvent* event) {
     QLabel::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         Q_EMIT clicked();
-    }
 }
 
 void place(Label& label, double left, double top, double width, double height) {

@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
@@ -29,7 +31,7 @@ QMessageBox::Icon picture(host::Icon icon) {
 
 /// The box breaks a line at a line feed alone; texts carry carriage returns too.
 QString lines(QString text) {
-    return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
 }
 
 } // namespace
@@ -37,30 +39,28 @@ QString lines(QString text) {
 host::Answer MessageBoxes::show(host::Icon icon, const QString& text, host::Buttons buttons) {
     const Hourglass::Pause pause;
     QMessageBox box(dialogOwner());
-    box.setObjectName(QStringLiteral("messageBox"));
+    box.setObjectName(u"messageBox"_s);
     box.setWindowTitle(host::title());
     box.setIcon(picture(icon));
     box.setTextFormat(Qt::PlainText);
     box.setText(lines(text));
     if (buttons == host::Buttons::Ok) {
-        QPushButton* ok = box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+        QPushButton* ok = box.addButton(u"OK"_s, QMessageBox::AcceptRole);
         box.setDefaultButton(ok);
         box.setEscapeButton(ok);
         box.exec();
         return host::Answer::Ok;
     }
-    QPushButton* yes = box.addButton(QStringLiteral("Sì"), QMessageBox::YesRole);
-    QPushButton* no = box.addButton(QStringLiteral("No"), QMessageBox::NoRole);
+    QPushButton* yes = box.addButton(u"Sì"_s, QMessageBox::YesRole);
+    QPushButton* no = box.addButton(u"No"_s, QMessageBox::NoRole);
     QPushButton* escape = no;
-    if (buttons == host::Buttons::YesNoCancel) {
-        escape = box.addButton(QStringLiteral("Annulla"), QMessageBox::RejectRole);
-    }
+    if (buttons == host::Buttons::YesNoCancel)
+        escape = box.addButton(u"Annulla"_s, QMessageBox::RejectRole);
     box.setDefaultButton(yes);
     box.setEscapeButton(escape);
     box.exec();
-    if (box.clickedButton() == yes) {
+    if (box.clickedButton() == yes)
         return host::Answer::Yes;
-    }
     return box.clickedButton() == no ? host::Answer::No : host::Answer::Cancel;
 }
 

@@ -6,10 +6,12 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 ParentForm::ParentForm(const QString& name) : Form(name), area_(new QMdiArea(client())) {
-    area_->setObjectName(QStringLiteral("area"));
+    area_->setObjectName(u"area"_s);
     area_->setBackground(palette().brush(QPalette::Mid));
     area_->setFrameShape(QFrame::NoFrame);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -38,21 +40,17 @@ ParentForm::~ParentForm() = default;
 
 QList<Form*> ParentForm::pages() const {
     QList<Form*> loaded;
-    for (const QPointer<Form>& page : pages_) {
-        if (page && page->isLoaded()) {
+    for (const QPointer<Form>& page : pages_)
+        if (page && page->isLoaded())
             loaded.append(page);
-        }
-    }
     return loaded;
 }
 
 bool ParentForm::unloadPages() {
     const QList<Form*> open = pages();
-    for (Form* page : open) {
-        if (!page->onQueryUnload()) {
+    for (Form* page : open)
+        if (!page->onQueryUnload())
             return false;
-        }
-    }
     for (Form* page : open) {
         page->onUnload();
         page->finishUnload();

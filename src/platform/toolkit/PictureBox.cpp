@@ -92,9 +92,8 @@ void PictureBox::paintEvent(QPaintEvent* event) {
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     QFrame::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         Q_EMIT clicked();
-    }
 }
 
 bool PictureBox::takes(const QDropEvent& event) const {

@@ -2,6 +2,8 @@
 
 #include "platform/runtime/Error.h"
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
@@ -14,9 +16,8 @@ PrinterDialog*& installed() {
 } // namespace
 
 PrinterDialog& printerDialog() {
-    if (installed() == nullptr) {
-        runtime::raise(runtime::InvalidCall, QStringLiteral("Servizio del desktop non disponibile"));
-    }
+    if (installed() == nullptr)
+        runtime::raise(runtime::InvalidCall, u"Servizio del desktop non disponibile"_s);
     return *installed();
 }
 

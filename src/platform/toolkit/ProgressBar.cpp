@@ -12,23 +12,20 @@ ProgressBar::ProgressBar(const QString& name, QWidget* parent) : QProgressBar(pa
 }
 
 void ProgressBar::setMin(int minimum) {
-    if (minimum > maximum()) {
+    if (minimum > maximum())
         runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
-    }
     setMinimum(minimum);
 }
 
 void ProgressBar::setMax(int maximum) {
-    if (maximum < minimum()) {
+    if (maximum < minimum())
         runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
-    }
     setMaximum(maximum);
 }
 
 void ProgressBar::setValue(int value) {
-    if (value < minimum() || value > maximum()) {
+    if (value < minimum() || value > maximum())
         runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
-    }
     QProgressBar::setValue(value);
 }
 

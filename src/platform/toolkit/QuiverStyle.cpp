@@ -9,6 +9,8 @@
 #include <QTreeView>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 namespace {
@@ -35,7 +37,7 @@ QIcon sign(const QString& text, const QColor& colour) {
         painter.setBrush(colour);
         painter.drawEllipse(picture.rect().adjusted(1, 1, -1, -1));
         painter.setPen(Qt::white);
-        painter.setFont(font(QStringLiteral("Arial"), size * 0.5, true));
+        painter.setFont(font(u"Arial"_s, size * 0.5, true));
         painter.drawText(picture.rect(), Qt::AlignCenter, text);
         painter.end();
         icon.addPixmap(picture);
@@ -66,7 +68,7 @@ void drawOutline(QPainter* painter, const QRect& frame) {
 
 } // namespace
 
-QuiverStyle::QuiverStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+QuiverStyle::QuiverStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
 QColor QuiverStyle::accent() {
     return {0x2f, 0x6f, 0xa8};
@@ -88,9 +90,8 @@ QPalette QuiverStyle::colours() {
     palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfd, 0xf0));
     palette.setColor(QPalette::ToolTipText, QColor(0x1f, 0x24, 0x2b));
     palette.setColor(QPalette::PlaceholderText, QColor(0x80, 0x88, 0x92));
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor(0x93, 0x9a, 0xa3));
-    }
     palette.setColor(QPalette::Disabled, QPalette::Base, QColor(0xf3, 0xf4, 0xf6));
     palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(0xc3, 0xd6, 0xe8));
     palette.setColor(QPalette::Inactive, QPalette::HighlightedText, QColor(0x1f, 0x24, 0x2b));
@@ -198,13 +199,13 @@ QIcon QuiverStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
                                 const QWidget* widget) const {
     switch (icon) {
     case SP_MessageBoxCritical:
-        return sign(QStringLiteral("×"), QColor(0xc0, 0x3b, 0x34));
+        return sign(u"×"_s, QColor(0xc0, 0x3b, 0x34));
     case SP_MessageBoxQuestion:
-        return sign(QStringLiteral("?"), accent());
+        return sign(u"?"_s, accent());
     case SP_MessageBoxWarning:
-        return sign(QStringLiteral("!"), QColor(0xd9, 0x8c, 0x1f));
+        return sign(u"!"_s, QColor(0xd9, 0x8c, 0x1f));
     case SP_MessageBoxInformation:
-        return sign(QStringLiteral("i"), accent());
+        return sign(u"i"_s, accent());
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }
@@ -213,9 +214,8 @@ QIcon QuiverStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
 void QuiverStyle::drawTitleBar(const QStyleOptionComplex* option, QPainter* painter,
                                const QWidget* widget) const {
     const auto* bar = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
-    if (bar == nullptr) {
+    if (bar == nullptr)
         return;
-    }
     const bool active = bar->titleBarState & State_Active;
     painter->save();
     painter->fillRect(bar->rect, titleColour(active));
@@ -253,16 +253,14 @@ void QuiverStyle::drawCombo(const QStyleOptionComplex* option, QPainter* painter
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(focus ? accent() : line(), 1));
     painter->setBrush(option->palette.color(enabled ? QPalette::Normal : QPalette::Disabled, QPalette::Base));
-    if (combo == nullptr || combo->frame) {
+    if (combo == nullptr || combo->frame)
         painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
-    }
     painter->restore();
     if (option->subControls & SC_ComboBoxArrow) {
         const QRect arrow = subControlRect(CC_ComboBox, option, SC_ComboBoxArrow, widget);
         const bool hot = (option->state & State_MouseOver) && (option->activeSubControls & SC_ComboBoxArrow);
-        if (enabled && (hot || (option->state & State_On))) {
+        if (enabled && (hot || (option->state & State_On)))
             painter->fillRect(arrow, QColor(0xe1, 0xea, 0xf3));
-        }
         drawChevron(painter, arrow,
                     option->palette.color(enabled ? QPalette::Normal : QPalette::Disabled, QPalette::Text));
     }
@@ -270,13 +268,12 @@ void QuiverStyle::drawCombo(const QStyleOptionComplex* option, QPainter* painter
 
 void QuiverStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                      QPainter* painter, const QWidget* widget) const {
-    if (control == CC_TitleBar) {
+    if (control == CC_TitleBar)
         drawTitleBar(option, painter, widget);
-    } else if (control == CC_ComboBox) {
+    else if (control == CC_ComboBox)
         drawCombo(option, painter, widget);
-    } else {
+    else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-    }
 }
 
 void QuiverStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -7,6 +7,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace toolkit {
 
 ReportList::ReportList(const QString& name, QWidget* parent)
@@ -21,7 +23,7 @@ ReportList::ReportList(const QString& name, QWidget* parent)
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setAlternatingRowColors(true);
-    header()->setObjectName(QStringLiteral("header"));
+    header()->setObjectName(u"header"_s);
     header()->setSectionsClickable(true);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
@@ -39,11 +41,10 @@ ReportList::ReportList(const QString& name, QWidget* parent)
 void ReportList::addColumn(const QString& caption, double width, Qt::Alignment alignment) {
     const int column = model_->columnCount();
     model_->addColumn(caption, alignment);
-    if (width <= 0) {
+    if (width <= 0)
         setColumnHidden(column, true);
-    } else {
+    else
         setColumnWidth(column, toPixels(width));
-    }
 }
 
 int ReportList::addItem(const QString& text) {
@@ -52,16 +53,14 @@ int ReportList::addItem(const QString& text) {
 }
 
 void ReportList::setSubItem(int line, int column, const QString& text) {
-    if (line < 0 || line >= count()) {
+    if (line < 0 || line >= count())
         runtime::raise(runtime::SubscriptOutOfRange, {}, objectName());
-    }
     model_->setCell(line, column, text);
 }
 
 void ReportList::clear() {
-    if (!filling_ && hasSelection()) {
+    if (!filling_ && hasSelection())
         keptKey_ = selectedText();
-    }
     model_->clear();
 }
 
@@ -70,9 +69,8 @@ int ReportList::count() const {
 }
 
 QString ReportList::cell(int line, int column) const {
-    if (line < 0 || line >= count()) {
+    if (line < 0 || line >= count())
         runtime::raise(runtime::SubscriptOutOfRange, {}, objectName());
-    }
     return model_->cell(line, column);
 }
 
@@ -83,20 +81,17 @@ int ReportList::selectedLine() const {
 
 QString ReportList::selectedText() const {
     const int line = selectedLine();
-    if (line < 0) {
+    if (line < 0)
         runtime::raise(runtime::ObjectNotSet, {}, objectName());
-    }
     return itemText(line);
 }
 
 void ReportList::select(int line) {
-    if (line < 0 || line >= count()) {
+    if (line < 0 || line >= count())
         runtime::raise(runtime::SubscriptOutOfRange, {}, objectName());
-    }
     int column = 0;
-    while (isColumnHidden(column) && column < model_->columnCount() - 1) {
+    while (isColumnHidden(column) && column < model_->columnCount() - 1)
         ++column;
-    }
     const QModelIndex index = model_->index(line, column);
     selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
@@ -105,17 +100,15 @@ void ReportList::select(int line) {
 void ReportList::setSortKey(int column) {
     sortKey_ = column;
     header()->setSortIndicatorShown(column >= 0);
-    if (column < 0) {
+    if (column < 0)
         return;
-    }
     header()->setSortIndicator(column, Qt::AscendingOrder);
     if (!filling_) {
         const bool selected = hasSelection();
         const QString key = selected ? selectedText() : QString();
         model_->sortBy(column);
-        if (selected) {
+        if (selected)
             selectKey(key);
-        }
     }
 }
 
@@ -126,24 +119,21 @@ void ReportList::selectKey(const QString& key) {
             return;
         }
     }
-    if (count() > 0) {
+    if (count() > 0)
         select(0);
-    }
 }
 
 void ReportList::beginRefill() {
-    if (hasSelection()) {
+    if (hasSelection())
         keptKey_ = selectedText();
-    }
     filling_ = true;
     setUpdatesEnabled(false);
     model_->beginFill();
 }
 
 void ReportList::endRefill() {
-    if (sortKey_ >= 0) {
+    if (sortKey_ >= 0)
         model_->sortBy(sortKey_);
-    }
     model_->endFill();
     filling_ = false;
     selectKey(keptKey_);

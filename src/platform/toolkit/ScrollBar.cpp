@@ -16,9 +16,8 @@ ScrollBar::ScrollBar(const QString& name, QWidget* parent, Qt::Orientation orien
 
 void ScrollBar::wheelEvent(QWheelEvent* event) {
     const int turn = event->angleDelta().y();
-    if (turn != 0) { // one step a notch, at once
+    if (turn != 0) // one step a notch, at once
         setValue(value() + (turn > 0 ? -singleStep() : singleStep()));
-    }
     event->accept();
 }
 

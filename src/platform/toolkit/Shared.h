@@ -10,9 +10,8 @@ namespace toolkit {
 template <class T> class Shared {
 public:
     static T& comune() {
-        if (!esiste()) {
+        if (!esiste())
             instance = new T; // the form registers itself; see Form::destroyAll
-        }
         return *instance;
     }
 

@@ -31,9 +31,8 @@ void StatusBar::addPanel(const QString& key, double width, Qt::Alignment alignme
 
 QLabel& StatusBar::label(const QString& key) const {
     auto* found = findChild<QLabel*>(key, Qt::FindDirectChildrenOnly);
-    if (found == nullptr || key.isEmpty()) {
+    if (found == nullptr || key.isEmpty())
         runtime::raise(runtime::ElementNotFound, {}, key);
-    }
     return *found;
 }
 

@@ -37,9 +37,8 @@ QString TabStrip::key(int index) const {
 }
 
 void TabStrip::select(int index) {
-    if (index < 1 || index > count()) {
+    if (index < 1 || index > count())
         runtime::raise(runtime::ElementNotFound, {}, objectName());
-    }
     setCurrentIndex(index - 1);
     Q_EMIT clicked();
 }
@@ -57,9 +56,8 @@ void TabStrip::select(const QString& key) {
 void TabStrip::keyPressEvent(QKeyEvent* event) {
     const int before = currentIndex();
     QTabBar::keyPressEvent(event);
-    if (currentIndex() != before) {
+    if (currentIndex() != before)
         Q_EMIT clicked();
-    }
 }
 
 void TabStrip::wheelEvent(QWheelEvent* event) {
@@ -69,11 +67,10 @@ void TabStrip::wheelEvent(QWheelEvent* event) {
 QSize TabStrip::tabSizeHint(int index) const {
     QSize hint = QTabBar::tabSizeHint(index);
     const bool upright = shape() == QTabBar::RoundedWest;
-    if (upright && width() > 0) {
+    if (upright && width() > 0)
         hint.setWidth(width()); // the strip's own breadth, whatever the style would like
-    } else if (!upright && height() > 0) {
+    else if (!upright && height() > 0)
         hint.setHeight(height());
-    }
     return hint;
 }
 

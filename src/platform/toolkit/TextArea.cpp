@@ -28,9 +28,8 @@ void TextArea::setText(const QString& text) {
 }
 
 void TextArea::report() {
-    if (setting_) {
+    if (setting_)
         return;
-    }
     const QString now = toPlainText();
     if (now != reported_) { // the editor also tells of changes that are none
         reported_ = now;
@@ -43,9 +42,8 @@ QString TextArea::fitting(const QString& text) const {
     const qsizetype kept =
         document()->characterCount() - 1 - (cursor.selectionEnd() - cursor.selectionStart());
     qsizetype room = std::clamp<qsizetype>(longest - kept, 0, text.size());
-    if (room > 0 && room < text.size() && text.at(room - 1).isHighSurrogate()) {
+    if (room > 0 && room < text.size() && text.at(room - 1).isHighSurrogate())
         --room; // no half of a character
-    }
     return text.left(room);
 }
 
@@ -80,16 +78,14 @@ void TextArea::insertFromMimeData(const QMimeData* source) {
 
 void TextArea::focusInEvent(QFocusEvent* event) {
     QPlainTextEdit::focusInEvent(event);
-    if (betweenControls(event->reason())) {
+    if (betweenControls(event->reason()))
         Q_EMIT gotFocus();
-    }
 }
 
 void TextArea::focusOutEvent(QFocusEvent* event) {
     QPlainTextEdit::focusOutEvent(event);
-    if (betweenControls(event->reason())) {
+    if (betweenControls(event->reason()))
         Q_EMIT lostFocus();
-    }
 }
 
 } // namespace toolkit

@@ -18,13 +18,11 @@ TextBox::TextBox(const QString& name, QWidget* parent) : QLineEdit(parent) {
 }
 
 void TextBox::setText(const QString& text) {
-    if (guard_ != nullptr) {
+    if (guard_ != nullptr)
         guard_->pause(true);
-    }
     QLineEdit::setText(text);
-    if (guard_ != nullptr) {
+    if (guard_ != nullptr)
         guard_->pause(false);
-    }
 }
 
 void TextBox::guardApostrophes() {
@@ -52,24 +50,21 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
 
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    if (event->reason() == Qt::MouseFocusReason) {
+    if (event->reason() == Qt::MouseFocusReason)
         focusPress_ = true; // the press comes next and would undo a selection made now
-    } else if (betweenControls(event->reason())) {
+    else if (betweenControls(event->reason()))
         Q_EMIT gotFocus();
-    }
 }
 
 void TextBox::mousePressEvent(QMouseEvent* event) {
     QLineEdit::mousePressEvent(event);
-    if (focusPress_) {
+    if (focusPress_)
         Q_EMIT gotFocus();
-    }
 }
 
 void TextBox::mouseMoveEvent(QMouseEvent* event) {
-    if (!focusPress_) { // a trembling hand does not select
+    if (!focusPress_) // a trembling hand does not select
         QLineEdit::mouseMoveEvent(event);
-    }
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
@@ -79,9 +74,8 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (betweenControls(event->reason())) {
+    if (betweenControls(event->reason()))
         Q_EMIT lostFocus();
-    }
 }
 
 } // namespace toolkit

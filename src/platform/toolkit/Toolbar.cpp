@@ -45,29 +45,24 @@ void Toolbar::addSeparator(const QString& key) {
 void Toolbar::setImageList(const ImageList* normal, const ImageList* hot) {
     normal_ = normal;
     hot_ = hot;
-    for (const Entry& entry : entries_) {
-        if (entry.button != nullptr && normal != nullptr) {
+    for (const Entry& entry : entries_)
+        if (entry.button != nullptr && normal != nullptr)
             entry.button->setIconSize(normal->imageSize());
-        }
-    }
 }
 
 void Toolbar::setImage(int position, int image) {
-    if (normal_ == nullptr) {
+    if (normal_ == nullptr)
         runtime::raise(runtime::ObjectNotSet, {}, objectName());
-    }
     QIcon icon = normal_->icon(image);
-    if (hot_ != nullptr) {
+    if (hot_ != nullptr)
         icon.addPixmap(hot_->icon(image).pixmap(hot_->imageSize()), QIcon::Active);
-    }
     button(position).setIcon(icon);
     button(position).setIconSize(normal_->imageSize());
 }
 
 const Toolbar::Entry& Toolbar::entry(int position) const {
-    if (position < 1 || position > count()) {
+    if (position < 1 || position > count())
         runtime::raise(runtime::ElementNotFound, {}, objectName());
-    }
     return entries_[static_cast<std::size_t>(position - 1)];
 }
 
@@ -81,18 +76,15 @@ QString Toolbar::key(int position) const {
 
 QToolButton& Toolbar::button(int position) const {
     QToolButton* button = entry(position).button;
-    if (button == nullptr) {
+    if (button == nullptr)
         runtime::raise(runtime::ElementNotFound, {}, objectName());
-    }
     return *button;
 }
 
 QToolButton& Toolbar::button(const QString& key) const {
-    for (const Entry& entry : entries_) {
-        if (entry.button != nullptr && entry.key == key) {
+    for (const Entry& entry : entries_)
+        if (entry.button != nullptr && entry.key == key)
             return *entry.button;
-        }
-    }
     runtime::raise(runtime::ElementNotFound, {}, key);
 }
 
@@ -106,11 +98,9 @@ void Toolbar::setButtonEnabled(int position, bool enabled) {
 
 void assegnaImmaginiToolbar(Toolbar& toolbar) {
     int image = 0;
-    for (int position = 1; position <= toolbar.count(); ++position) {
-        if (!toolbar.isSeparator(position)) {
+    for (int position = 1; position <= toolbar.count(); ++position)
+        if (!toolbar.isSeparator(position))
             toolbar.setImage(position, ++image);
-        }
-    }
 }
 
 } // namespace toolkit

@@ -38,44 +38,35 @@ void Validation::add(QWidget* field, std::function<bool()> check) {
 
 QWidget* Validation::currentField() const {
     for (QWidget* widget = QApplication::focusWidget(); widget != nullptr && widget != page_;
-         widget = widget->parentWidget()) {
-        if (checks_.contains(widget)) {
+         widget = widget->parentWidget())
+        if (checks_.contains(widget))
             return widget;
-        }
-    }
     return nullptr;
 }
 
 bool Validation::leavesFor(QWidget* target, const QWidget* field) const {
     if (target == nullptr || !page_->isAncestorOf(target) || target->window() != page_->window() ||
-        target == field || field->isAncestorOf(target)) {
+        target == field || field->isAncestorOf(target))
         return false;
-    }
     for (QWidget* widget = target; widget != nullptr && widget != page_; widget = widget->parentWidget()) {
-        if (!widget->isEnabled()) {
+        if (!widget->isEnabled())
             return false;
-        }
-        if (widget->focusPolicy() & Qt::ClickFocus) {
+        if (widget->focusPolicy() & Qt::ClickFocus)
             return true;
-        }
-        if (qobject_cast<QTabBar*>(widget) != nullptr || qobject_cast<QScrollBar*>(widget) != nullptr) {
+        if (qobject_cast<QTabBar*>(widget) != nullptr || qobject_cast<QScrollBar*>(widget) != nullptr)
             return true;
-        }
-        if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        if (const auto* button = qobject_cast<QAbstractButton*>(widget))
             return button->focusPolicy() != Qt::NoFocus;
-        }
     }
     return false;
 }
 
 bool Validation::refuses(QWidget* field) {
-    if (checking_) {
+    if (checking_)
         return false;
-    }
     const QScopedValueRollback<bool> guard(checking_, true);
-    if (checks_.value(field)()) {
+    if (checks_.value(field)())
         return false;
-    }
     field->setFocus(Qt::OtherFocusReason);
     return true;
 }
@@ -93,9 +84,8 @@ bool Validation::stops(QObject* receiver, QEvent* event) {
         return false;
     }
     auto* target = qobject_cast<QWidget*>(receiver);
-    if (target == nullptr) {
+    if (target == nullptr)
         return false;
-    }
     const QList<Validation*> all = instances();
     return std::any_of(all.begin(), all.end(), [target, event](Validation* validation) {
         return instances().contains(validation) && validation->stopsHere(target, event);
@@ -104,31 +94,25 @@ bool Validation::stops(QObject* receiver, QEvent* event) {
 
 bool Validation::stopsHere(QWidget* target, QEvent* event) {
     const QEvent::Type type = event->type();
-    if (type == QEvent::MouseButtonRelease) {
+    if (type == QEvent::MouseButtonRelease)
         return std::exchange(swallowRelease_, false) && page_->isAncestorOf(target);
-    }
     const bool press = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
-    if (press) {
+    if (press)
         swallowRelease_ = false;
-    }
     QWidget* field = currentField();
-    if (field == nullptr) {
+    if (field == nullptr)
         return false;
-    }
     if (type == QEvent::KeyPress) {
         const auto* key = static_cast<QKeyEvent*>(event);
         const bool tab = key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab;
         return tab && (target == field || field->isAncestorOf(target)) && refuses(field);
     }
-    if (type == QEvent::Shortcut) {
+    if (type == QEvent::Shortcut)
         return page_->isAncestorOf(target) && target != field && refuses(field);
-    }
-    if (type == QEvent::Wheel && qobject_cast<QScrollBar*>(target) == nullptr) {
+    if (type == QEvent::Wheel && qobject_cast<QScrollBar*>(target) == nullptr)
         return false;
-    }
-    if (!leavesFor(target, field) || !refuses(field)) {
+    if (!leavesFor(target, field) || !refuses(field))
         return false;
-    }
     swallowRelease_ = press;
     return true;
 }

@@ -32,10 +32,9 @@ QString complaint(const QString& text) {
 
 template <class Test> int pixelsThat(const QImage& image, Test test) {
     int found = 0;
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
             found += test(image.pixel(x, y)) ? 1 : 0;
-    }
     return found;
 }
 
@@ -148,9 +147,8 @@ private Q_SLOTS:
                 for (int x = 0; x < wide; ++x) {
                     const QRgb p = a.pixel(x, y);
                     const QRgb q = b.pixel(x, y);
-                    if (qGray(p) > 250 && qGray(q) > 250) {
+                    if (qGray(p) > 250 && qGray(q) > 250)
                         continue;
-                    }
                     sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) +
                            std::abs(qBlue(p) - qBlue(q));
                     ++points;

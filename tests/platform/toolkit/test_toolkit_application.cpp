@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto failing = "--fail";
@@ -30,8 +32,7 @@ int failingProgram(int /*argc*/, char** /*argv*/) {
         ~Asking() override { std::puts("destroyed"); }
     } form;
     form.show();
-    QTimer::singleShot(0, &form,
-                       [] { runtime::raise(runtime::TypeMismatch, QStringLiteral("Tipo non valido")); });
+    QTimer::singleShot(0, &form, [] { runtime::raise(runtime::TypeMismatch, u"Tipo non valido"_s); });
     QTimer::singleShot(0, [] {
         const QMessageBox* box = openBox();
         std::printf("%s|%s|%d\n", qPrintable(box->windowTitle()), box->text().toUtf8().constData(),
@@ -110,11 +111,9 @@ private Q_SLOTS:
                 QTest::keyClick(box, Qt::Key_Escape);
                 return;
             }
-            for (QAbstractButton* button : box->buttons()) {
-                if (button->text() == press) {
+            for (QAbstractButton* button : box->buttons())
+                if (button->text() == press)
                     button->click();
-                }
-            }
         });
         QTEST(toolkit::MessageBoxes().show(host::Icon::Question, "Confermi?", buttons), "answer");
         QCOMPARE(title, host::title());

@@ -200,9 +200,8 @@ private Q_SLOTS:
         WindowPage(*form_).press("Stampa");
         QCOMPARE(told.count(), 1);
         QCOMPARE(told.at(0).at(0).toString(), QString("Stampa"));
-        for (const int position : {0, 2, 4}) {
+        for (const int position : {0, 2, 4})
             QCOMPARE(errorOf([&] { bar->button(position); }), int(runtime::ElementNotFound));
-        }
         StatusBar panels("panels", form_.get());
         panels.addPanel("status");
         panels.setPanel("status", "Totale <b>");

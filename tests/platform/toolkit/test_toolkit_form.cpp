@@ -13,6 +13,8 @@
 #include <QMdiArea>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 using toolkit::Form;
 
 namespace {
@@ -34,9 +36,8 @@ public:
 protected:
     void onLoad() override {
         note("load");
-        if (leavesWhileLoading) {
+        if (leavesWhileLoading)
             unload();
-        }
     }
     void onActivate() override { note("activate"); }
     bool onQueryUnload() override {
@@ -139,9 +140,8 @@ private Q_SLOTS:
     void modalEndsBy_data() {
         QTest::addColumn<QString>("way");
         QTest::addColumn<bool>("gone");
-        for (const char* way : {"button", "escape", "close box"}) {
+        for (const char* way : {"button", "escape", "close box"})
             QTest::newRow(way) << QString(way) << true;
-        }
         QTest::newRow("hide") << QString("hide") << false;
     }
     void modalEndsBy() {
@@ -153,15 +153,14 @@ private Q_SLOTS:
         bool wasModal = false;
         QTimer::singleShot(0, dialog, [&] {
             wasModal = dialog->isModal() && Form::active() == dialog;
-            if (way == "button") {
+            if (way == "button")
                 WindowPage(*dialog).press("leave");
-            } else if (way == "escape") {
+            else if (way == "escape")
                 QTest::keyClick(dialog, Qt::Key_Escape);
-            } else if (way == "close box") {
+            else if (way == "close box")
                 dialog->close();
-            } else {
+            else
                 dialog->hide();
-            }
         });
         dialog->showModal();
         QVERIFY(wasModal);
@@ -194,7 +193,7 @@ private Q_SLOTS:
         const ExpectedFatal fatal;
         Dialog* dialog = &Dialog::comune();
         connect(dialog->leave, &QPushButton::clicked, dialog,
-                [] { runtime::raise(runtime::Overflow, QStringLiteral("troppo")); });
+                [] { runtime::raise(runtime::Overflow, u"troppo"_s); });
         QTimer::singleShot(0, dialog, [dialog] { WindowPage(*dialog).press("leave"); });
         dialog->showModal();
         QCOMPARE(fatal.count, 1);

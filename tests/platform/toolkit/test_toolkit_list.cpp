@@ -16,17 +16,15 @@ void fill(ReportList& list, const QList<QStringList>& lines) {
     list.clear();
     for (const QStringList& cells : lines) {
         const int line = list.addItem(cells.at(0));
-        for (int column = 1; column < cells.size(); ++column) {
+        for (int column = 1; column < cells.size(); ++column)
             list.setSubItem(line, column, cells.at(column));
-        }
     }
 }
 
 QStringList column(const ReportList& list, int column) {
     QStringList cells;
-    for (int line = 0; line < list.count(); ++line) {
+    for (int line = 0; line < list.count(); ++line)
         cells << list.cell(line, column);
-    }
     return cells;
 }
 

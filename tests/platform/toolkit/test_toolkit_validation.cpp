@@ -31,9 +31,8 @@ public:
         auto* validation = new Validation(this);
         validation->add(serie, [this] {
             ++asked;
-            if (throwing) {
+            if (throwing)
                 runtime::raise(runtime::TypeMismatch);
-            }
             return serie->text().toInt() <= 99;
         });
         validation->add(durata, [this] {
@@ -109,23 +108,22 @@ private Q_SLOTS:
             const WindowPage page(form);
             page.type("serie", good ? "99" : "100");
             form.asked = 0;
-            if (way == "Tab") {
+            if (way == "Tab")
                 page.key("serie", Qt::Key_Tab);
-            } else if (way == "Backtab") {
+            else if (way == "Backtab")
                 page.key("serie", Qt::Key_Backtab);
-            } else if (way == "Alt+I") {
+            else if (way == "Alt+I")
                 page.key("serie", Qt::Key_I, Qt::AltModifier);
-            } else if (way == "wheel") {
+            else if (way == "wheel")
                 wheel(*form.bar);
-            } else if (way == "tabs") {
+            else if (way == "tabs")
                 page.clickTab("tabs", 2);
-            } else if (way == "bar") {
+            else if (way == "bar")
                 QTest::mouseClick(form.bar, Qt::LeftButton, {}, QPoint(7, form.bar->height() - 30));
-            } else if (way == "note") {
+            else if (way == "note")
                 QTest::mouseClick(form.note->viewport(), Qt::LeftButton);
-            } else {
+            else
                 page.press(way);
-            }
             QCOMPARE(form.asked, asks ? 1 : 0);
             // The click of an access key is animated, and acts at its end.
             QTRY_VERIFY(!form.access->isDown());
