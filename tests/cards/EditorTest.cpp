@@ -1,9 +1,5 @@
 #include "cards/EditorTest.h"
 
-#include "cards/SchedaCorpo.h"
-#include "cards/SchedaIntestazione.h"
-#include "cards/mdiScheda.h"
-#include "cards/scheda.h"
 #include "core/variabiliGlobali.h"
 
 using namespace Qt::StringLiterals;
@@ -21,29 +17,16 @@ int EditorTest::nuovaScheda() const {
 }
 
 void EditorTest::esercizio(int scheda, int posizione, int figura, const QString& note) const {
-    sql(u"INSERT INTO Esercizi (NProg,ID_Scheda,ID_Fig,Durata,Frequenza,Ampiezza,RecuperoMin,RecuperoSec,"
-        "Serie,Modalita,Peso,isLibero,Note) VALUES (%1,%2,%3,'45s','40Hz','H',1,20,3,'Combinata','5 kg',"
-        "%4,'%5')"_s.arg(posizione)
-            .arg(scheda)
-            .arg(figura)
-            .arg(figura == 0 ? 1 : 0)
-            .arg(note));
+    const auto riga =
+        u"INSERT INTO Esercizi (NProg,ID_Scheda,ID_Fig,Durata,Frequenza,Ampiezza,RecuperoMin,"
+        "RecuperoSec,Serie,Modalita,Peso,isLibero,Note) VALUES (%1,%2,%3,'45s','40Hz','H',1,20,3,"
+        "'Combinata','5 kg',%3=0,'%4')"_s;
+    sql(riga.arg(posizione).arg(scheda).arg(figura).arg(note));
 }
 
 void EditorTest::nuovoModello() const {
     sql(u"INSERT INTO schedeModello VALUES (2,2,'Mio',0,'note mie');"
         "INSERT INTO EserciziModello VALUES (3,1,2,1,'45s','40Hz','H',1,20,3,'Combinata','',0,'mia')");
-}
-
-int EditorTest::apriConFigure(std::initializer_list<int> figure) const {
-    const int scheda = nuovaScheda();
-    int posizione = 0;
-    for (const int figura : figure) {
-        ++posizione;
-        esercizio(scheda, posizione, figura, QString(QChar(u'a' + posizione - 1)));
-    }
-    apriScheda(scheda);
-    return scheda;
 }
 
 void EditorTest::apri(int utente, int scheda, int modello) {
@@ -54,37 +37,23 @@ void EditorTest::apri(int utente, int scheda, int modello) {
     QVERIFY(QTest::qWaitForWindowActive(&mdiScheda::comune())); // else no field has the focus
 }
 
-SchedaApribile& EditorTest::aperta() {
-    return *mdiScheda::comune().schedaAperta;
-}
-
-::scheda& EditorTest::schedaAperta() {
-    return dynamic_cast<::scheda&>(aperta());
+int EditorTest::apriConFigure(std::initializer_list<int> figure) const {
+    const int scheda = nuovaScheda();
+    int posizione = 0;
+    for (const int figura : figure) {
+        esercizio(scheda, posizione + 1, figura, QString(QChar(u'a' + posizione)));
+        ++posizione;
+    }
+    apri(1, scheda, 0);
+    return scheda;
 }
 
 QString EditorTest::righe() {
     QStringList righe;
-    for (const auto& e : *aperta().esercizi) {
+    for (const auto& e : *aperta().esercizi)
         righe +=
             u"%1|%2|%3|%4|%5"_s.arg(e->id_fig).arg(e->durata).arg(e->serie).arg(e->note).arg(e->isLibero);
-    }
     return righe.join(u", "_s);
-}
-
-QString EditorTest::stato() {
-    return mdiScheda::comune().findChild<toolkit::StatusBar*>()->panel(u"status"_s);
-}
-
-WindowPage EditorTest::editor() {
-    return WindowPage(mdiScheda::comune());
-}
-
-WindowPage EditorTest::intestazione() {
-    return WindowPage(SchedaIntestazione::comune());
-}
-
-WindowPage EditorTest::corpo() {
-    return WindowPage(SchedaCorpo::comune());
 }
 
 void EditorTest::salva() {

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "cards/SchedaCorpo.h"
+#include "cards/SchedaIntestazione.h"
+#include "cards/mdiScheda.h"
+#include "cards/scheda.h"
 #include "support/WindowTest.h"
-
-class SchedaApribile;
-class scheda;
 
 /// Tests of the card editor and its pages, with the athlete 1 "Rossi Mario".
 class EditorTest : public WindowTest {
@@ -20,21 +21,19 @@ protected:
     /// Adds the user's template 2, "Mio", with one line of figure 1.
     void nuovoModello() const;
 
-    static void apriNuova() { apri(1, 0, 0); }
-    static void apriScheda(int scheda) { apri(1, scheda, 0); }
-    /// Opens a new card with one exercise of each figure; its key comes back.
-    int apriConFigure(std::initializer_list<int> figure) const;
     static void apri(int utente, int scheda, int modello);
+    static void apriNuova() { apri(1, 0, 0); }
+    /// Opens a new card with one exercise of each figure, its notes "a", "b", …; its key comes back.
+    int apriConFigure(std::initializer_list<int> figure) const;
 
-    static SchedaApribile& aperta();
-    static ::scheda& schedaAperta();
+    static SchedaApribile& aperta() { return *mdiScheda::comune().schedaAperta; }
+    static ::scheda& schedaAperta() { return dynamic_cast<::scheda&>(aperta()); }
     /// "figure|durata|serie|note|isLibero" of every line in memory.
     static QString righe();
-    static QString stato();
-
-    static WindowPage editor();
-    static WindowPage intestazione();
-    static WindowPage corpo();
+    static WindowPage editor() { return WindowPage(mdiScheda::comune()); }
+    static WindowPage intestazione() { return WindowPage(SchedaIntestazione::comune()); }
+    static WindowPage corpo() { return WindowPage(SchedaCorpo::comune()); }
+    static toolkit::ScrollBar& barra() { return corpo().find<toolkit::ScrollBar>(QStringLiteral("VS")); }
     /// Presses a button of the editor's toolbar.
     static void comando(const QString& chiave) { editor().press(chiave); }
     /// Saves by the toolbar, which tells of it.
