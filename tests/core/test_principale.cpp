@@ -4,197 +4,105 @@
 #include "core/MenuPrincipale.h"
 #include "core/Principale.h"
 #include "core/variabiliGlobali.h"
-#include "platform/toolkit/Toolbar.h"
 #include "support/WindowTest.h"
-
-#include <QMenu>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace variabiliGlobali;
 
-namespace {
-
-/// What a menu shows: name and caption of each item, "-" for a separator, "*" before one with a picture.
-QString shown(const QMenu& menu) {
-    QStringList items;
-    for (const QAction* action : menu.actions()) {
-        if (action->isVisible()) {
-            items.append(action->isSeparator() ? u"-"_s
-                                               : (action->icon().isNull() ? QString() : u"*"_s) +
-                                                     action->objectName() + u'|' + action->text());
-        }
-    }
-    return items.join(u"; "_s);
-}
-
-/// The athlete list opens: choose the athlete in that line, or none for -1.
-void whenAthletes(int line) {
-    whenModal([line](toolkit::Form& form) {
-        QCOMPARE(form.objectName(), u"UtentiSelezione"_s);
-        QCOMPARE(form.Tag, u"SELEZIONA"_s);
-        const FormPage page(form);
-        if (line < 0) {
-            page.press(u"annulla"_s);
-            return;
-        }
-        page.list().select(line);
-        page.press(u"seleziona"_s);
-    });
-}
-
-} // namespace
-
 class TestPrincipale : public WindowTest {
     Q_OBJECT
+
+    static QAction& menu(const QString& name) {
+        return WindowPage(Principale::comune()).find<MenuPrincipale>(u"MenuPrincipale"_s).voce(name);
+    }
+    static void press(const QString& button) { WindowPage(Principale::comune()).press(button); }
+    /// The athlete list opens: choose the athlete in that line, or none for -1.
+    static void whenAthletes(int line) {
+        whenModal([line](toolkit::Form& form) {
+            QCOMPARE(form.Tag, u"SELEZIONA"_s);
+            FormPage(form).list().select(std::max(line, 0));
+            FormPage(form).press(line < 0 ? u"annulla"_s : u"seleziona"_s);
+        });
+    }
+    /// The modal window that a menu's item opens; it is closed.
+    static QString opens(const QString& command) {
+        QString opened;
+        whenModal([&opened](toolkit::Form& form) {
+            opened = form.objectName();
+            form.unload();
+        });
+        menu(command).trigger();
+        return opened;
+    }
+    /// Whether the main window shows, whether the editor does; the athlete and key of the open card.
+    static QString shown() {
+        const QString text =
+            u"%1 %2"_s.arg(Principale::comune().isVisible()).arg(mdiScheda::comune().isVisible());
+        const auto* card = dynamic_cast<const scheda*>(mdiScheda::comune().schedaAperta.get());
+        return card == nullptr ? text : text + u" %1 %2"_s.arg(card->id_utente).arg(card->id_scheda);
+    }
+
 private Q_SLOTS:
     void init() {
         WindowTest::init();
         sql(u"INSERT INTO utenti (cognome,nome) VALUES ('Rossi','Ada'),('Verdi','Ugo');"
-            "INSERT INTO schede (id_utente,id_cat,Istruttore,FreqAllen) VALUES "
-            "(1,1,'Giulia',3),(1,2,'Marco',2)");
+            "INSERT INTO schede (id_utente,id_cat,Istruttore,FreqAllen) VALUES (2,1,'Ada',3),(1,2,'Ugo',2)");
         finestre::caricaScheda();
         Principale::comune().show();
     }
 
-    void menusAndToolbar() {
-        const WindowPage page(Principale::comune());
-        const auto& bar = page.find<MenuPrincipale>(u"MenuPrincipale"_s);
-        QStringList tops;
-        QStringList menus;
-        for (const QAction* top : bar.actions()) {
-            tops.append(top->menu()->objectName() + u'|' + top->text());
-            menus.append(shown(*top->menu()));
-        }
-        QCOMPARE(tops, QStringList({u"mnuQDK|Zentara Deckforge"_s, u"mnuUtenti|Utenti"_s,
-                                    u"mnuSchede|Schede"_s, u"mnuHelp|?"_s}));
-        QCOMPARE(menus.at(0), u"*mnuQDKPersonalizza|Personalizza; -; *mnuQDKEsci|Esci"_s);
-        QCOMPARE(menus.at(1), u"*mnuUtentiGestione|Gestione..."_s);
-        QCOMPARE(
-            menus.at(2),
-            u"*mnuSchedeNuova|Nuova Scheda; *mnuSchedeApri|Apri...; -; *mnuSchedeDaModello|Nuova da Modello; "
-            "*mnuSchedeGestioneModello|Gestione Schede Modello; -; "
-            "mnuSchedeCosaNonFare|Stampa \"ISTRUZIONI D'USO\""_s);
-        QCOMPARE(menus.at(3),
-                 u"*mnuHelpHelp|Guida del programma; -; mnuHelpManuale|Manuale d'uso di Quiverdeck; -; "
-                 "*mnuHelpAbout|Informazioni su..."_s);
-
-        const auto& toolbar = page.find<toolkit::Toolbar>(u"Toolbar1"_s);
-        QVERIFY(toolbar.isSeparator(3));
-        for (const auto& [position, key] : {std::pair(1, u"nuova"_s), std::pair(2, u"nuovaDaModello"_s),
-                                            std::pair(4, u"apri"_s), std::pair(5, u"esci"_s)}) {
-            QCOMPARE(toolbar.key(position), key);
-            QVERIFY(!toolbar.button(position).icon().isNull());
-        }
-        QCOMPARE(Principale::comune().caption(), u" Zentara"_s);
+    void commandsOpenTheirWindows() {
+        for (int i = 0; i < 5; ++i)
+            givePicture(program(), u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
+        QCOMPARE(opens(u"mnuQDKPersonalizza"_s), u"frmPersonalizza"_s);
+        QCOMPARE(opens(u"mnuUtentiGestione"_s), u"UtentiSelezione"_s);
+        QCOMPARE(opens(u"mnuSchedeApri"_s), u"UtentiSelezione"_s);
+        QCOMPARE(opens(u"mnuSchedeDaModello"_s), u"UtentiSelezione"_s);
+        QCOMPARE(opens(u"mnuSchedeCosaNonFare"_s), u"PrinterDaNonFare"_s);
+        QCOMPARE(opens(u"mnuHelpAbout"_s), u"frmAbout"_s);
+        press(u"esci"_s);
+        QVERIFY(inChiusura && !Principale::esiste() && !mdiScheda::esiste());
     }
 
-    void logoStandsInTheMiddle_data() {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("large") << QSize(1024, 700);
-        QTest::newRow("small") << QSize(420, 300);
-    }
-    void logoStandsInTheMiddle() {
-        QFETCH(QSize, size);
-        Principale& window = Principale::comune();
-        window.setMaximised(false);
-        window.resize(size);
-        const auto& logo = WindowPage(window).find<toolkit::PictureBox>(u"logoQD"_s);
-        QVERIFY(logo.isVisible());
-        QCOMPARE(logo.size(), QSize(400, 120));
-        QVERIFY((logo.geometry().center() - window.client()->rect().center()).manhattanLength() <= 2);
-    }
-
-    void cancellingLeavesEverything() {
+    void toolbarForgetsAndMenuKeepsTheEarlierChoice() {
         idUtenteSelezionato = 2;
-        idSchedaSelezionata = 5;
-        idModelloSelezionato = 7;
+        idSchedaSelezionata = idModelloSelezionato = 5;
         whenAthletes(-1);
-        WindowPage(Principale::comune()).press(u"apri"_s);
-        QVERIFY(Principale::comune().isVisible());
-        QCOMPARE(scelti(), u"0 0 0"_s);
-    }
-
-    void menuKeepsTheEarlierChoice() {
+        press(u"apri"_s);
+        QCOMPARE(scelti() + u' ' + shown(), u"0 0 0 1 0"_s);
+        whenAthletes(1);
+        press(u"nuova"_s);
+        QCOMPARE(shown(), u"0 1 2 0"_s);
+        boxes().expect(Icon::Information, u"Salvo le ultime modifiche?"_s, Answer::No);
+        WindowPage(mdiScheda::comune()).press(u"fine"_s);
+        QVERIFY(Principale::comune().isVisible() && !mdiScheda::comune().isVisible());
+        QCOMPARE(idUtenteSelezionato, 0);
         idUtenteSelezionato = 2;
         whenAthletes(-1);
         menu(u"mnuSchedeNuova"_s).trigger(); // the earlier athlete is still in force
-        QVERIFY(!Principale::comune().isVisible());
-        QCOMPARE(dynamic_cast<scheda&>(*mdiScheda::comune().schedaAperta).id_utente, 2);
-    }
-
-    void newCard() {
-        whenAthletes(1);
-        WindowPage(Principale::comune()).press(u"nuova"_s);
-        QVERIFY(!Principale::comune().isVisible());
-        QVERIFY(mdiScheda::comune().isVisible());
-        QCOMPARE(mdiScheda::comune().schedaAperta->id_scheda, 0);
-        QCOMPARE(dynamic_cast<scheda&>(*mdiScheda::comune().schedaAperta).id_utente, 2);
-        boxes().expect(Icon::Information, u"Salvo le ultime modifiche?"_s, Answer::No);
-        WindowPage(mdiScheda::comune()).press(u"fine"_s);
-        QVERIFY(Principale::comune().isVisible());
-        QVERIFY(!mdiScheda::comune().isVisible());
-        QCOMPARE(idUtenteSelezionato, 0);
+        QCOMPARE(shown(), u"0 1 2 0"_s);
     }
 
     void openCard() {
         whenAthletes(0);
-        QTimer::singleShot(0, this, [] {
-            // The athlete list closes first; its successor is modal by then.
-            whenModal([](toolkit::Form& form) {
-                QCOMPARE(form.objectName(), u"SchedeSelezione"_s);
-                const FormPage page(form);
-                page.list().select(1);
-                page.press(u"seleziona"_s);
-            });
+        QTimer::singleShot(0, this, [] { // the athlete list closes first; its successor is modal by then
+            whenModal([](toolkit::Form& form) { FormPage(form).press(u"seleziona"_s); });
         });
-        WindowPage(Principale::comune()).press(u"apri"_s);
-        QVERIFY(!Principale::comune().isVisible());
-        QCOMPARE(mdiScheda::comune().schedaAperta->id_scheda, 2);
+        press(u"apri"_s);
+        QCOMPARE(shown(), u"0 1 1 2"_s); // the athlete's own card
     }
 
-    void cardFromATemplate_data() {
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("opens");
-        QTest::newRow("chosen") << 1 << true;
-        QTest::newRow("cancelled") << -1 << false;
-    }
     void cardFromATemplate() {
-        QFETCH(int, answer);
-        QFETCH(bool, opens);
-        whenModal([answer](toolkit::Form& form) {
-            QCOMPARE(form.objectName(), u"SchedeMODELLOSelezione"_s);
-            QCOMPARE(idUtenteSelezionato, 0); // managing forgets the athlete
-            form.unload();
-            idModelloSelezionato = answer;
-        });
-        idUtenteSelezionato = 2;
-        menu(u"mnuSchedeGestioneModello"_s).trigger();
-        QCOMPARE(mdiScheda::comune().isVisible(), opens);
-        QCOMPARE(Principale::comune().isVisible(), !opens);
-    }
-
-    void missingManualFails() {
-        QAction& manual = menu(u"mnuHelpManuale"_s);
-        const ExpectedFatal fatal;
-        QTimer::singleShot(0, &manual, &QAction::trigger);
-        QTRY_COMPARE(fatal.lastNumber, 53);
-    }
-
-    void leaving() {
-        WindowPage(Principale::comune()).press(u"esci"_s);
-        QVERIFY(inChiusura);
-        QVERIFY(!Principale::esiste());
-        QVERIFY(!mdiScheda::esiste());
-    }
-
-private:
-    static QAction& menu(const QString& name) {
-        QAction& action =
-            WindowPage(Principale::comune()).find<MenuPrincipale>(u"MenuPrincipale"_s).voce(name);
-        if (!action.isEnabled())
-            qFatal("%s is disabled", qPrintable(name));
-        return action;
+        for (const int answer : {-1, 1}) {
+            whenModal([answer](toolkit::Form& form) {
+                QCOMPARE(idUtenteSelezionato, 0); // managing forgets the athlete
+                form.unload();
+                idModelloSelezionato = answer;
+            });
+            idUtenteSelezionato = 2;
+            menu(u"mnuSchedeGestioneModello"_s).trigger();
+            QCOMPARE(mdiScheda::comune().isVisible(), answer == 1);
+        }
     }
 };
 

@@ -8,183 +8,128 @@
 #include "support/WindowTest.h"
 
 #include <QDir>
-#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString file =
-    u"<html><body>\n<!--capitolo Primo-->\n<!--pagina benvenuto|Benvenuti-->\n<h1>Benvenuti</h1>\n"
+static const QString file =
+    u"<!--capitolo Primo-->\n<!--pagina benvenuto|Benvenuti-->\n<h1>Benvenuti</h1>\n"
     "<p>Perché l’età conta: <a href=\"#palestra\">il logo</a></p>\n"
     "<!--pagina palestra|Palestra-->\n<h1>Palestra</h1><p>Il logo</p>\n"
-    "<!--capitolo Secondo-->\n<!--pagina finestra-principale|Finestra-->\n<p>Menu</p>\n"
-    "<!--fine-->\n</body></html>\n"_s;
-
-} // namespace
+    "<!--capitolo Secondo-->\n<!--pagina finestra-principale|Finestra-->\n<p>Menu</p>\n<!--fine-->\n"_s;
 
 class TestGuida : public WindowTest {
     Q_OBJECT
-private Q_SLOTS:
-    void init() {
-        WindowTest::init();
-        key_ = std::make_unique<TastoAiuto>();
-        guida::file = host::joined(u"\\HELP\\HELP.hlp"_s);
-        write(u"HELP.hlp"_s, file);
-    }
-    void cleanup() {
-        WindowTest::cleanup();
-        key_.reset();
-    }
 
-    void window() {
-        FinestraGuida::mostra(u"palestra"_s);
-        QCOMPARE(contents(),
-                 QStringList({u"Primo"_s, u"  Benvenuti"_s, u"  Palestra"_s, u"Secondo"_s, u"  Finestra"_s}));
-        QVERIFY(WindowPage(FinestraGuida::comune())
-                    .find<QTextBrowser>(u"testo"_s)
-                    .toPlainText()
-                    .contains(u"Il logo"_s));
-    }
-
-    void goingBackAndForward() {
-        FinestraGuida::mostra(u"nessuna"_s); // the first page stands for one that is not there
-        FinestraGuida& guide = FinestraGuida::comune();
-        const WindowPage page(guide);
-        QCOMPARE(guide.pagina(), u"benvenuto"_s);
-        QVERIFY(!page.isEnabled(u"indietro"_s));
-        Q_EMIT page.find<QTextBrowser>(u"testo"_s).anchorClicked(QUrl(u"#palestra"_s));
-        QCOMPARE(guide.pagina(), u"palestra"_s);
-        page.press(u"indietro"_s);
-        QCOMPARE(guide.pagina(), u"benvenuto"_s);
-        QVERIFY(!page.isEnabled(u"indietro"_s));
-        page.press(u"avanti"_s);
-        QCOMPARE(guide.pagina(), u"palestra"_s);
-        QVERIFY(!page.isEnabled(u"avanti"_s));
-        page.press(u"indietro"_s);
-        auto& tree = page.find<QTreeWidget>(u"indice"_s);
-        tree.setCurrentItem(tree.topLevelItem(1)->child(0)); // a new road: nothing lies ahead any more
-        QCOMPARE(guide.pagina(), u"finestra-principale"_s);
-        QVERIFY(!page.isEnabled(u"avanti"_s));
-        page.press(u"inizio"_s);
-        QCOMPARE(guide.pagina(), u"benvenuto"_s);
-    }
-
-    void searching_data() {
-        QTest::addColumn<QString>("words");
-        QTest::addColumn<QStringList>("found");
-        QTest::newRow("two pages") << u"LOGO"_s
-                                   << QStringList({u"Primo"_s, u"  Benvenuti"_s, u"  Palestra"_s});
-        QTest::newRow("no accents") << u"eta perche"_s << QStringList({u"Primo"_s, u"  Benvenuti"_s});
-        QTest::newRow("straight apostrophe") << u"l'età"_s << QStringList({u"Primo"_s, u"  Benvenuti"_s});
-        QTest::newRow("not the code") << u"href"_s << QStringList(u"Nessuna pagina trovata"_s);
-        QTest::newRow("every word") << u"logo menu"_s << QStringList(u"Nessuna pagina trovata"_s);
-    }
-    void searching() {
-        QFETCH(QString, words);
-        FinestraGuida::mostra(u"benvenuto"_s);
-        const WindowPage page(FinestraGuida::comune());
-        page.find<toolkit::TextBox>(u"cerca"_s).setText(words);
-        QTEST(contents(), "found");
-        QCOMPARE(FinestraGuida::comune().pagina(), u"benvenuto"_s);
-        page.type(u"cerca"_s, {});
-        QCOMPARE(contents().size(), 5);
-    }
-
-    void helpKey_data() {
-        QTest::addColumn<QString>("control");
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<QString>("page");
-        QTest::newRow("in a field") << u"nome"_s << 0 << u"palestra"_s;
-        QTest::newRow("on a button") << u"cmdOK"_s << 0 << u"palestra"_s;
-        QTest::newRow("another key") << u"nome"_s << int(Qt::ShiftModifier) << QString();
-    }
-    void helpKey() {
-        QFETCH(QString, control);
-        QFETCH(int, modifiers);
-        QFETCH(QString, page);
-        // In a modal window: the guide is used beside it.
-        whenModal([&](toolkit::Form& form) {
-            WindowPage(form).key(control, Qt::Key_F1, Qt::KeyboardModifiers(modifiers));
-            QCOMPARE(FinestraGuida::esiste(), !page.isEmpty());
-            if (FinestraGuida::esiste()) {
-                QCOMPARE(FinestraGuida::comune().pagina(), page);
-                QCOMPARE(FinestraGuida::comune().windowHandle()->transientParent(), form.windowHandle());
-                WindowPage(FinestraGuida::comune()).press(u"inizio"_s);
-                QCOMPARE(FinestraGuida::comune().pagina(), u"benvenuto"_s);
-            }
-            form.unload();
-        });
-        frmPersonalizza::comune().showModal();
-    }
-
-    void everyWindowHasItsPage() {
-        for (const QString& window :
-             {u"Principale"_s, u"UtentiSelezione"_s, u"UtentiNuovo"_s, u"mdiScheda"_s,
-              u"SchedaIntestazione"_s, u"SchedaCorpo"_s, u"SchedaSelezioneFIGURE"_s, u"SchedaPreviewFigura"_s,
-              u"SchedeSelezione"_s, u"SchedeMODELLOSelezione"_s, u"SchedeMODELLONuova"_s,
-              u"SchedaIntestazioneMODELLO"_s, u"PrinterCanvas"_s, u"PrinterDaNonFare"_s, u"frmPersonalizza"_s,
-              u"ResolutionConfirm"_s}) {
-            const QString page = qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine/"_s +
-                                 paginaDellaFinestra(window) + u".md"_s;
-            QVERIFY2(haPagina(window) && QFile::exists(page), qPrintable(window));
-        }
-    }
-
-    void commandsOfTheMainWindow() {
-        Principale::comune().show();
-        item(u"mnuHelpHelp"_s).trigger();
-        QCOMPARE(FinestraGuida::comune().pagina(), u"finestra-principale"_s);
-        Principale::comune().unload(); // nothing stays open behind it
-        QVERIFY(!FinestraGuida::esiste());
-    }
-
-    void missingFile() {
-        QFile::remove(program().folder() + u"/HELP/HELP.hlp"_s);
-        boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
-        FinestraGuida::mostra(u"palestra"_s);
-        write(u"HELP.hlp"_s, u"altro"_s);
-        boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
-        FinestraGuida::mostra(u"palestra"_s);
-        write(u"HELP.hlp"_s, file); // put back, it opens at once
-        FinestraGuida::mostra(u"palestra"_s);
-        QCOMPARE(FinestraGuida::comune().pagina(), u"palestra"_s);
-    }
-
-    void manualOpensWithTheFolder() {
-        // The launcher tells what it was started with; the program's folder has blanks and accents.
-        const QString told = program().folder() + u"/detto.txt"_s;
-        write(u"manuale"_s, u"#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$1/detto.tmp\"\n"
-                            "mv \"$1/detto.tmp\" \"$1/detto.txt\"\n"_s);
-        QFile::setPermissions(program().folder() + u"/HELP/manuale"_s, QFile::ReadOwner | QFile::ExeOwner);
-        Principale::comune().show();
-        item(u"mnuHelpManuale"_s).trigger();
-        QTRY_VERIFY(QFile::exists(told));
-        QFile answer(told);
-        QVERIFY(answer.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(answer.readAll()), u"1|"_s + program().folder());
-    }
-
-private:
     void write(const QString& name, const QString& text) const {
         QDir().mkpath(program().folder() + u"/HELP"_s);
         QFile out(program().folder() + u"/HELP/"_s + name);
         QVERIFY(out.open(QIODevice::WriteOnly));
         out.write(text.toUtf8());
     }
-    /// The lines of the contents, pages set in by two blanks.
-    static QStringList contents() {
-        QStringList lines;
-        const auto& tree = WindowPage(FinestraGuida::comune()).find<QTreeWidget>(u"indice"_s);
-        for (QTreeWidgetItemIterator item(&const_cast<QTreeWidget&>(tree)); *item != nullptr; ++item)
-            lines.append(((*item)->parent() != nullptr ? u"  "_s : QString()) + (*item)->text(0));
-        return lines;
+    static WindowPage page() { return WindowPage(FinestraGuida::comune()); }
+    /// The page, and which ways are open from it.
+    static QString at() {
+        return u"%1 %2%3"_s.arg(FinestraGuida::comune().pagina())
+            .arg(page().isEnabled(u"indietro"_s))
+            .arg(page().isEnabled(u"avanti"_s));
     }
-    static QAction& item(const QString& name) {
-        return WindowPage(Principale::comune()).find<MenuPrincipale>(u"MenuPrincipale"_s).voce(name);
+    static QString contents() {
+        QStringList lines;
+        for (QTreeWidgetItemIterator item(&page().find<QTreeWidget>(u"indice"_s)); *item != nullptr; ++item)
+            lines += (*item)->text(0);
+        return lines.join(u' ');
+    }
+    static void command(const QString& name) {
+        Principale::comune().show();
+        WindowPage(Principale::comune()).find<MenuPrincipale>(u"MenuPrincipale"_s).voce(name).trigger();
     }
 
-    std::unique_ptr<TastoAiuto> key_;
+private Q_SLOTS:
+    void init() {
+        WindowTest::init();
+        guida::file = host::joined(u"\\HELP\\HELP.hlp"_s);
+        write(u"HELP.hlp"_s, file);
+    }
+
+    void goingBackAndForward() {
+        FinestraGuida::mostra(u"nessuna"_s); // the first page stands for one that is not there
+        QCOMPARE(at(), u"benvenuto 00"_s);
+        Q_EMIT page().find<QTextBrowser>(u"testo"_s).anchorClicked(QUrl(u"#palestra"_s));
+        QCOMPARE(at(), u"palestra 10"_s);
+        page().press(u"indietro"_s);
+        QCOMPARE(at(), u"benvenuto 01"_s);
+        page().press(u"avanti"_s);
+        QCOMPARE(at(), u"palestra 10"_s);
+        auto& tree = page().find<QTreeWidget>(u"indice"_s);
+        tree.setCurrentItem(tree.topLevelItem(1)->child(0)); // a new road: nothing lies ahead any more
+        QCOMPARE(at(), u"finestra-principale 10"_s);
+    }
+
+    void searching() {
+        FinestraGuida::mostra(u"benvenuto"_s);
+        for (const auto& [words, found] : std::initializer_list<std::pair<QString, QString>>{
+                 {u"LOGO"_s, u"Primo Benvenuti Palestra"_s},
+                 {u"eta perche"_s, u"Primo Benvenuti"_s},
+                 {u"l'età"_s, u"Primo Benvenuti"_s},
+                 {u"href"_s, u"Nessuna pagina trovata"_s},
+                 {u"logo menu"_s, u"Nessuna pagina trovata"_s},
+                 {QString(), u"Primo Benvenuti Palestra Secondo Finestra"_s}}) {
+            page().find<toolkit::TextBox>(u"cerca"_s).setText(words);
+            QCOMPARE(contents() + at(), found + u"benvenuto 00"_s);
+        }
+    }
+
+    void helpKey() {
+        const TastoAiuto key;
+        whenModal([](toolkit::Form& form) { // the guide is used beside it
+            WindowPage(form).key(u"nome"_s, Qt::Key_F1, Qt::ShiftModifier);
+            QVERIFY(!FinestraGuida::esiste());
+            WindowPage(form).key(u"cmdOK"_s, Qt::Key_F1);
+            QCOMPARE(at(), u"palestra 00"_s);
+            QCOMPARE(FinestraGuida::comune().windowHandle()->transientParent(), form.windowHandle());
+            page().press(u"inizio"_s);
+            QCOMPARE(at(), u"benvenuto 10"_s);
+            form.unload();
+        });
+        frmPersonalizza::comune().showModal();
+        command(u"mnuHelpHelp"_s);
+        QCOMPARE(FinestraGuida::comune().pagina(), u"finestra-principale"_s);
+        Principale::comune().unload(); // nothing stays open behind it
+        QVERIFY(!FinestraGuida::esiste());
+    }
+
+    void everyWindowHasItsPage() {
+        const QDir pages(qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine"_s);
+        const QString windows =
+            u"Principale UtentiSelezione UtentiNuovo mdiScheda SchedaIntestazione SchedaCorpo PrinterCanvas "
+            "SchedaSelezioneFIGURE SchedaPreviewFigura SchedeSelezione SchedeMODELLOSelezione "
+            "PrinterDaNonFare "
+            "SchedeMODELLONuova SchedaIntestazioneMODELLO frmPersonalizza ResolutionConfirm"_s;
+        for (const QString& window : windows.split(u' '))
+            QVERIFY2(haPagina(window) && pages.exists(paginaDellaFinestra(window) + u".md"_s),
+                     qPrintable(window));
+    }
+
+    void missingFile() {
+        write(u"HELP.hlp"_s, u"altro"_s);
+        boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
+        FinestraGuida::mostra(u"palestra"_s);
+        write(u"HELP.hlp"_s, file); // put back, it opens at once
+        FinestraGuida::mostra(u"palestra"_s);
+        QCOMPARE(at(), u"palestra 00"_s);
+    }
+
+    void manualOpensWithTheFolder() {
+        // The launcher tells what it was started with; the program's folder has blanks and accents.
+        write(u"manuale"_s, u"#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$1/detto.tmp\"\n"
+                            "mv \"$1/detto.tmp\" \"$1/detto.txt\"\n"_s);
+        QFile::setPermissions(program().folder() + u"/HELP/manuale"_s, QFile::ReadOwner | QFile::ExeOwner);
+        command(u"mnuHelpManuale"_s);
+        QFile answer(program().folder() + u"/detto.txt"_s);
+        QTRY_VERIFY(answer.exists());
+        QVERIFY(answer.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromUtf8(answer.readAll()), u"1|"_s + program().folder());
+    }
 };
 
 QUIVERDECK_TEST(TestGuida)
