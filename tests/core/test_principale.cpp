@@ -68,7 +68,7 @@ private Q_SLOTS:
         idUtenteSelezionato = 2;
         idSchedaSelezionata = idModelloSelezionato = 5;
         whenAthletes(-1);
-        press(u"apri"_s);
+        press(u"nuova"_s);
         QCOMPARE(scelti() + u' ' + shown(), u"0 0 0 1 0"_s);
         whenAthletes(1);
         press(u"nuova"_s);
