@@ -24,7 +24,7 @@ class TestPersonalizza : public WindowTest {
         QImage picture(size, QImage::Format_RGB32);
         picture.fill(Qt::darkGreen);
         QDir().mkpath(images() + u"/../altrove"_s);
-        const QString path = images() + u"/../altrove/"_s + name;
+        QString path = images() + u"/../altrove/"_s + name;
         picture.save(path, name.endsWith(u"bmp"_s) ? "BMP" : "JPG");
         return path;
     }
