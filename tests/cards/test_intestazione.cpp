@@ -22,7 +22,7 @@ class TestIntestazione : public EditorTest {
 private Q_SLOTS:
     void newCardTakesItsDefaults() {
         const QDateTime ora = QDateTime::currentDateTime(); // a day that the picker shows before it is set
-        runtime::setClock([ora] { return ora; });
+        runtime::setClock([&ora] { return ora; });
         const auto orologio = qScopeGuard([] { runtime::setClock({}); });
         apriNuova();
         const QString periodo = ora.toString(u"dd/MM/yyyy"_s) + ora.addDays(21).toString(u"|dd/MM/yyyy"_s);
