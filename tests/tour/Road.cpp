@@ -1,235 +1,234 @@
-#include "Road.h"
-
-#include "SideRoads.h"
 #include "Tour.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <QCoreApplication>
+#include <QDir>
 #include <QImage>
 #include <QPainter>
-#include <QProcess>
-#include <QRegularExpression>
-#include <sqlite3.h>
 
-#include <array>
-#include <memory>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// One stop at the muscle map: the area to press, and what the two rows of the page take.
+/// One stop at the muscle map: the area to press, and what the two rows of the page take. Five screens of two
+/// exercises; the eleventh is free text.
 struct Stop {
-    const char* area;
-    const char* serie;
-    const char* minutes;
-    const char* seconds;
-    const char* note;
+    QString area, series, minutes, seconds, note;
+};
+const Stop stops[] = {
+    {u"QUA_2"_s, u"3"_s, u"1"_s, u"30"_s, u"Ginocchia in linea con i piedi, sguardo avanti."_s},
+    {u"GLU_2"_s, u"3"_s, u"1"_s, u"0"_s, u"Salire spingendo sull'avampiede."_s},
+    {u"Add_1"_s, u"2"_s, u"0"_s, u"45"_s, u"Respirare sempre: mai trattenere il fiato."_s},
+    {u"DOR_0"_s, u"3"_s, u"1"_s, u"0"_s, {}},
+    {u"PET_5"_s, u"2"_s, u"1"_s, u"15"_s, u"Perché funzioni, le scapole restano basse."_s},
 };
 
-/// Five screens of two exercises; the eleventh is free text.
-constexpr std::array<Stop, 5> stops{{
-    {"BodyMap1/QUA_2", "3", "1", "30", "Ginocchia in linea con i piedi, sguardo avanti."},
-    {"BodyMap1/GLU_2", "3", "1", "0", "Salire spingendo sull'avampiede."},
-    {"BodyMap1/Add_1", "2", "0", "45", "Respirare sempre: mai trattenere il fiato."},
-    {"BodyMap1/DOR_0", "3", "1", "0", ""},
-    {"BodyMap1/PET_5", "2", "1", "15", "Perché funzioni, le scapole restano basse."},
-}};
-
-/// The gym's own row, written as the gym would have done, with a logo of its own.
-void writeGym(const QString& folder) {
-    const QString logo = folder + "/images/palestra ’Il Cigno’.JPG";
-    QImage picture(600, 420, QImage::Format_RGB32);
+/// The gym gives its name, and a logo by the file dialog; a new athlete comes.
+void enterNames(Tour& tour) {
+    const QString logo = QDir::homePath() + u"/Il Cigno.JPG"_s;
+    QImage picture(380, 380, QImage::Format_RGB32);
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x1f6f8b));
-    painter.drawRoundedRect(20, 20, 560, 380, 60, 60);
+    painter.setPen(QPen(QColor(0x1f6f8b), 60));
     painter.setBrush(QColor(0xf4d35e));
-    painter.drawEllipse(QPoint(300, 210), 120, 120);
-    painter.end();
-    if (!picture.save(logo, "JPG", 92))
-        throw TourError("no logo drawn");
-    sqlite3* handle = nullptr;
-    sqlite3_open_v2((folder + "/splash.ps").toUtf8().constData(), &handle, SQLITE_OPEN_READWRITE, nullptr);
-    const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> store(handle, &sqlite3_close);
-    const QString update =
-        QString("UPDATE palestra SET nome='Palestra Il Cigno', responsabile='Anna Però', logo='%1'")
-            .arg(logo);
-    if (sqlite3_exec(handle, update.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw TourError(sqlite3_errmsg(handle));
+    painter.drawEllipse(QPoint(190, 190), 155, 155);
+    tour.check(picture.save(logo, "JPG", 92), u"a logo is drawn"_s);
+    tour.menu(u"mnuQDK"_s, u"mnuQDKPersonalizza"_s, u"frmPersonalizza"_s, u"menu-programma"_s);
+    tour.fill(u"frmPersonalizza/nome"_s, u"Palestra Il Cigno"_s);
+    tour.fill(u"frmPersonalizza/responsabile"_s, u"Anna Però e figli"_s);
+    tour.go(u"cmdApriIMG"_s, u"fileDialog"_s);
+    tour.fill(u"fileNameEdit"_s, logo);
+    tour.key(u"Return"_s, u"frmPersonalizza"_s);
+    tour.where(u"frmPersonalizza/logo"_s);
+    tour.shot(u"palestra"_s, {u"frmPersonalizza"_s});
+    tour.go(u"frmPersonalizza/cmdOK"_s, u"Principale"_s);
+
+    tour.menu(u"mnuUtenti"_s, u"mnuUtentiGestione"_s, u"UtentiSelezione"_s, u"menu-utenti"_s);
+    tour.go(u"UtentiSelezione/nuovo"_s, u"UtentiNuovo"_s);
+    tour.fill(u"txtNome"_s, u"Niccolò"_s);
+    tour.fill(u"txtCognome"_s, u"D'Amico Bellini"_s);
+    tour.fill(u"txtNote"_s, u"Ginocchio destro operato: niente salti. Perché migliori, sedute brevi."_s);
+    tour.click(u"optM"_s);
+    tour.shot(u"atleta"_s, {u"UtentiNuovo"_s});
+    tour.go(u"CmdSave"_s, u"UtentiSelezione"_s);
+    tour.where(u"LW#item:Niccolò"_s);
+    tour.shot(u"elenco-atleti"_s, {u"UtentiSelezione"_s});
+    tour.go(u"UtentiSelezione/annulla"_s, u"Principale"_s);
 }
 
-void enterAthlete(Tour& tour) {
-    tour.click("mnuUtenti");
-    tour.where("mnuUtentiGestione");
-    tour.shot("menu-utenti");
-    tour.click("mnuUtentiGestione");
-    tour.window("UtentiSelezione");
-    tour.click("UtentiSelezione/nuovo");
-    tour.window("UtentiNuovo");
-    tour.fill("txtNome", "Niccolò");
-    tour.fill("txtCognome", "D'Amico Bellini");
-    tour.fill("txtNote", "Ginocchio destro operato nel 2019: niente salti. Perché migliori, sedute brevi.");
-    tour.click("optM");
-    tour.shot("atleta");
-    tour.portrait("UtentiNuovo");
-    tour.click("CmdSave");
-    tour.window("UtentiSelezione");
-    tour.until("the athlete in the list", [&] { return tour.text("LW#item:Niccolò") == "Niccolò"; });
-    tour.shot("elenco-atleti");
-    tour.portrait("UtentiSelezione");
-    tour.click("UtentiSelezione/annulla");
-    tour.window("Principale");
+/// Finds the tour's own athlete by typing and takes it with Enter.
+void chooseAthlete(Tour& tour, const QString& button, const QString& window) {
+    tour.go(button, u"UtentiSelezione"_s);
+    tour.fill(u"Ricerca"_s, u"d`am"_s);
+    tour.key(u"Return"_s, window);
 }
 
-void fillHeader(Tour& tour) {
-    tour.window("mdiScheda");
-    tour.shot("scheda-nuova");
-    tour.fill("SchedaIntestazione/Obiettivo", "Forza e tono dell'arto inferiore");
-    tour.fill("SchedaIntestazione/Istruttore", "Marta D'Amico");
-    tour.check(!tour.text("SchedaIntestazione/Istruttore").contains('\''),
-               "the straight apostrophe is guarded");
-    tour.click("apriGGAllen");
-    tour.click("GGAllen#row:2");
-    tour.shot("giorni");
-    tour.click("GGAllen#row:4");
-    tour.click("GGAllen#row:6");
-    tour.click("apriGGAllen");
-    tour.fill("SchedaIntestazione/note",
-              "Bere spesso. Dopo la terza settimana si rivede il programma insieme.");
-}
+void writeCard(Tour& tour) {
+    chooseAthlete(tour, u"Principale/nuova"_s, u"mdiScheda"_s);
+    tour.shot(u"scheda-nuova"_s);
+    tour.fill(u"SchedaIntestazione/Obiettivo"_s, u"Forza e tono dell'arto inferiore"_s);
+    tour.fill(u"Istruttore"_s, u"Marta D'Amico"_s);
+    tour.check(!tour.text(u"Istruttore"_s).contains(u'\''), u"straight apostrophes are guarded"_s);
+    tour.click(u"apriGGAllen"_s);
+    tour.click(u"GGAllen#row:2"_s);
+    tour.shot(u"giorni"_s);
+    tour.click(u"GGAllen#row:4"_s);
+    tour.click(u"GGAllen#row:6"_s);
+    tour.click(u"apriGGAllen"_s);
+    tour.fill(u"SchedaIntestazione/note"_s, u"Bere spesso. Dopo tre settimane si rivede il programma."_s);
 
-void fillRow(Tour& tour, int row, const Stop& stop) {
-    const QString end = QString("_%1").arg(row);
-    tour.fill("SchedaCorpo/serie" + end, stop.serie);
-    tour.fill("SchedaCorpo/recuperoMin" + end, stop.minutes);
-    tour.fill("SchedaCorpo/recuperoSec" + end, stop.seconds);
-    if (*stop.note != '\0')
-        tour.fill("SchedaCorpo/note" + end, stop.note);
-}
-
-/// One screen further down the list, by the scroll bar's arrow.
-void scrollDown(Tour& tour, int first) {
-    tour.click("SchedaCorpo/VS#at:8,358");
-    tour.until("the next exercises", [&] { return tour.text("nEsercizio_0") == QString::number(first); });
-}
-
-void seeTheEditor(Tour& tour) {
-    tour.shot("esercizi");
-    for (const char* page : {"mdiScheda", "SchedaIntestazione", "SchedaCorpo", "SchedaSelezioneFIGURE"})
-        tour.portrait(page);
-}
-
-void fillExercises(Tour& tour) {
     int first = 1;
     for (const Stop& stop : stops) {
-        if (first > 1)
-            scrollDown(tour, first);
-        tour.click(stop.area);
-        tour.drag("twImage#row:0", "SchedaCorpo/figura_0");
-        tour.drag("twImage#row:1", "SchedaCorpo/figura_1");
-        fillRow(tour, 0, stop);
-        fillRow(tour, 1, stop);
+        tour.click(u"BodyMap1/"_s + stop.area);
+        for (const QString& row : {u"0"_s, u"1"_s}) {
+            tour.drag(u"twImage#row:"_s + row, u"SchedaCorpo/figura_"_s + row);
+            tour.fill(u"SchedaCorpo/serie_"_s + row, stop.series);
+            tour.fill(u"SchedaCorpo/recuperoMin_"_s + row, stop.minutes);
+            tour.fill(u"SchedaCorpo/recuperoSec_"_s + row, stop.seconds);
+            if (!stop.note.isEmpty())
+                tour.fill(u"SchedaCorpo/note_"_s + row, stop.note);
+        }
         if (first == 1)
-            seeTheEditor(tour);
-        first += 2;
+            tour.shot(u"esercizi"_s, {u"mdiScheda"_s, u"SchedaIntestazione"_s, u"SchedaCorpo"_s,
+                                      u"SchedaSelezioneFIGURE"_s});
+        tour.click(u"SchedaCorpo/VS#at:8,358"_s); // one screen down
+        tour.reads(u"nEsercizio_0"_s, QString::number(first += 2));
     }
-    scrollDown(tour, first);
-    tour.click("TipoEsercizio_0#tab:1");
-    tour.fill("SchedaCorpo/note_2",
-              "Defaticamento: cinque minuti di camminata lenta, poi stretching a terra.");
-    tour.shot("esercizio-libero");
-    tour.check(tour.text("status").contains("Tempo effettivo: 13:00"),
-               "the totals count ten exercises: " + tour.text("status"));
-    tour.click("TabStrip1#tab:0");
-    tour.click("twFolder#item:Elenco Completo");
-    tour.where("twImage#row:2");
-    tour.shot("elenco-figure");
-    tour.click("mdiScheda/salva");
-    tour.box("Salvataggio effettuato", "OK", "salvata");
+    tour.click(u"TipoEsercizio_0#tab:1"_s);
+    tour.fill(u"SchedaCorpo/note_2"_s, u"Defaticamento: cinque minuti di camminata lenta, poi stretching."_s);
+    tour.shot(u"esercizio-libero"_s);
+    tour.reads(u"status"_s, u"Tempo effettivo: 13:00"_s); // of ten exercises
+}
+
+/// The power fails: asked at the next start, the card stands there as it stood, and can be stored.
+void loseRestoreAndSave(Tour& tour) {
+    const QJsonObject before = tour.texts(u"mdiScheda"_s);
+    tour.kill();
+    tour.start();
+    tour.window(u"messageBox"_s);
+    tour.reads(u"messageBox"_s, u"Ripristinare la scheda che era aperta"_s);
+    tour.key(u"Return"_s, u"mdiScheda"_s);
+    tour.until(u"the same card"_s, [&] { return tour.texts(u"mdiScheda"_s) == before; });
+    tour.check(!tour.shows(u"Principale"_s), u"the main window is away"_s);
+
+    tour.click(u"TabStrip1#tab:0"_s);
+    tour.click(u"twFolder#item:Elenco Completo"_s);
+    tour.where(u"twImage#row:2"_s);
+    tour.shot(u"elenco-figure"_s);
+    tour.click(u"mdiScheda/salva"_s);
+    tour.box(u"Salvataggio effettuato"_s, u"OK"_s, u"salvata"_s);
 }
 
 /// The sheets on screen and on paper.
 void print(Tour& tour) {
-    tour.click("mdiScheda/stampa");
-    tour.window("PrinterCanvas");
-    tour.until("the first sheet", [&] { return tour.text("info").contains("Pagina 1/2"); });
-    tour.shot("anteprima-1");
-    tour.portrait("PrinterCanvas");
-    const int top = tour.where("canvas")["top"].toInt();
-    tour.dragBy("canvas#at:8,500", 0, -60);
-    tour.check(tour.where("canvas")["top"].toInt() < top, "the hand drags the page");
-    tour.shot("anteprima-trascinata");
-    tour.click("PagSucc");
-    tour.until("the second sheet", [&] { return tour.text("info").contains("Pagina 2/2"); });
-    tour.shot("anteprima-2");
+    tour.go(u"mdiScheda/stampa"_s, u"PrinterCanvas"_s);
+    tour.reads(u"info"_s, u"Pagina 1/2"_s);
+    tour.shot(u"anteprima-1"_s, {u"PrinterCanvas"_s});
+    const int before = tour.where(u"canvas"_s)["y"].toInt();
+    tour.drag(u"canvas#at:8,500"_s, 0, -60);
+    tour.check(tour.where(u"canvas"_s)["y"].toInt() < before, u"the hand drags the page"_s);
+    tour.shot(u"anteprima-trascinata"_s);
+    tour.click(u"PagSucc"_s);
+    tour.reads(u"info"_s, u"Pagina 2/2"_s);
+    tour.shot(u"anteprima-2"_s);
+    const QString pdf = tour.print(u"PrinterCanvas"_s, u"scheda"_s, u"finestra-di-stampa"_s);
+    tour.run(u"pdftoppm"_s, {u"-r"_s, u"96"_s, u"-png"_s, pdf, tour.pictures + u"/foglio"_s});
+    tour.check(QDir(tour.pictures).entryList({u"foglio-*"_s}).size() == 2, u"the PDF has two sheets"_s);
+    tour.go(u"PrinterCanvas/esci"_s, u"mdiScheda"_s);
+}
 
-    const QString pdf = tour.pictures() + "/scheda.pdf";
-    tour.click("PrinterCanvas/Stampa");
-    tour.window("printerDialog");
-    tour.shot("finestra-di-stampa");
-    tour.check(tour.text("filename").endsWith(".pdf"), "a PDF is proposed: " + tour.text("filename"));
-    tour.fill("filename", pdf);
-    tour.click("printerDialog#button:Stampa");
-    tour.until("the PDF", [&] { return QFileInfo(pdf).size() > 0; });
-    tour.window("PrinterCanvas");
-    QProcess info;
-    info.start("pdfinfo", {pdf});
-    info.waitForFinished();
-    const QString facts = info.readAllStandardOutput();
-    tour.check(facts.contains(QRegularExpression("Pages: +2\n")), "the PDF has two sheets:\n" + facts);
-    if (QProcess::execute("pdftoppm", {"-r", "96", "-png", pdf, tour.pictures() + "/foglio"}) != 0)
-        throw TourError("the PDF does not open");
-    tour.click("PrinterCanvas/esci");
-    tour.window("mdiScheda");
+void leaveCard(Tour& tour, const QString& answer, const QString& picture = {}) {
+    tour.click(u"fine"_s);
+    tour.box(u"Salvo le ultime modifiche?"_s, answer, picture);
+    tour.window(u"Principale"_s);
 }
 
 void findItAgain(Tour& tour) {
-    tour.click("fine");
-    tour.box("Salvo le ultime modifiche?", "Sì", "fine");
-    tour.window("Principale");
-    tour.check(tour.startAgain() == 0, "a second start ends");
-    tour.window("Principale");
-    tour.click("Principale/apri");
-    chooseTheAthlete(tour);
-    tour.window("SchedeSelezione");
-    tour.shot("elenco-schede");
-    tour.portrait("SchedeSelezione");
-    tour.click("SchedeSelezione/seleziona");
-    tour.window("mdiScheda");
-    tour.shot("scheda-riaperta");
-    tour.check(tour.text("SchedaIntestazione/Obiettivo").startsWith("Forza e tono"), "the goal is kept");
-    tour.check(tour.text("SchedaCorpo/serie_0") == "3", "the series are kept");
-    tour.check(tour.text("SchedaCorpo/recuperoSec_1") == "30", "the recovery is kept");
-    tour.check(tour.text("status").contains("Tempo effettivo: 13:00"), "the totals are the same");
-    tour.click("fine");
-    tour.box("Salvo le ultime modifiche?", "No");
-    tour.window("Principale");
+    leaveCard(tour, u"Sì"_s, u"fine"_s);
+    tour.run(u"timeout"_s, {u"60"_s, tour.executable}); // a second start ends, and well
+    tour.window(u"Principale"_s);
+    chooseAthlete(tour, u"Principale/apri"_s, u"SchedeSelezione"_s);
+    tour.shot(u"elenco-schede"_s, {u"SchedeSelezione"_s});
+    tour.go(u"SchedeSelezione/seleziona"_s, u"mdiScheda"_s, u"scheda-riaperta"_s);
+    tour.reads(u"SchedaIntestazione/Obiettivo"_s, u"Forza e tono"_s);
+    tour.reads(u"SchedaCorpo/serie_0"_s, u"3"_s);
+    tour.reads(u"SchedaCorpo/recuperoSec_1"_s, u"30"_s);
+    tour.reads(u"status"_s, u"Tempo effettivo: 13:00"_s);
+    leaveCard(tour, u"No"_s);
+}
+
+void useTemplates(Tour& tour) {
+    chooseAthlete(tour, u"Principale/nuovaDaModello"_s, u"SchedeMODELLOSelezione"_s);
+    tour.shot(u"modelli"_s, {u"SchedeMODELLOSelezione"_s});
+    tour.go(u"SchedeMODELLOSelezione/seleziona"_s, u"mdiScheda"_s, u"scheda-da-modello"_s);
+    tour.check(!tour.text(u"status"_s).contains(u"totale: 00:00"_s), u"the template's exercises are there"_s);
+    tour.click(u"cmdZoom"_s);
+    tour.where(u"SchedaPreviewFigura"_s);
+    tour.shot(u"figura-ingrandita"_s);
+    tour.click(u"SchedaPreviewFigura/cmdClose"_s);
+    tour.go(u"SalvaSuModello"_s, u"SchedeMODELLONuova"_s);
+    tour.fill(u"descrizione"_s, u"Forza per chi ricomincia"_s);
+    tour.shot(u"modello-nuovo"_s, {u"SchedeMODELLONuova"_s});
+    tour.click(u"SchedeMODELLONuova/cmdOk"_s);
+    tour.box(u"Creata la nuova Scheda Modello 'Forza per chi ricomincia'"_s, u"OK"_s);
+    leaveCard(tour, u"No"_s);
+
+    tour.menu(u"mnuSchede"_s, u"mnuSchedeGestioneModello"_s, u"SchedeMODELLOSelezione"_s, u"menu-schede"_s);
+    tour.click(u"LW#item:Forza per chi ricomincia"_s);
+    tour.shot(u"modelli-gestione"_s);
+    tour.go(u"SchedeMODELLOSelezione/modifica"_s, u"mdiScheda"_s, u"modello-aperto"_s);
+    tour.reads(u"descrizione"_s, u"Forza per chi ricomincia"_s);
+    leaveCard(tour, u"Sì"_s);
+}
+
+/// The warnings' sheet, the guide, the windows behind the button that is not shown, and the way out.
+void lookRound(Tour& tour) {
+    tour.click(u"mnuSchede"_s);
+    tour.go(u"mnuSchedeCosaNonFare"_s, u"PrinterDaNonFare"_s);
+    tour.shot(u"avvertenze"_s, {u"PrinterDaNonFare"_s});
+    tour.print(u"PrinterDaNonFare"_s, u"avvertenze"_s);
+    tour.go(u"PrinterDaNonFare/esci"_s, u"Principale"_s);
+
+    tour.key(u"F1"_s, u"FinestraGuida"_s);
+    tour.shot(u"guida"_s);
+    tour.key(u"alt+F4"_s, u"Principale"_s);
+    tour.menu(u"mnuHelp"_s, u"mnuHelpAbout"_s, u"frmAbout"_s, u"menu-aiuto"_s);
+    tour.shot(u"informazioni"_s);
+    tour.go(u"frmAbout/cmdOK"_s, u"Principale"_s);
+    tour.key(u"ctrl+shift+F12"_s, u"Principale"_s);
+    tour.go(u"Principale/test"_s, u"zfrmTestDB"_s, u"prove"_s);
+    for (const QString& pair :
+         {u"cmdConteggi frmDisplay"_s, u"cmdDragAndDrop zTESTDragAndDrop"_s,
+          u"cmdTreeViewImage zTestTreeViewImage"_s, u"cmdSchedaCorpo2 SchedaCorpo2"_s}) {
+        const QString window = pair.section(u' ', 1);
+        tour.go(u"zfrmTestDB/"_s + pair.section(u' ', 0, 0), window, window);
+        tour.key(u"alt+F4"_s, u"zfrmTestDB"_s);
+    }
+    tour.key(u"alt+F4"_s, u"Principale"_s);
+    tour.click(u"Principale/esci"_s);
+    tour.check(tour.waitForEnd() == EXIT_SUCCESS, u"the program ends well"_s);
 }
 
 } // namespace
 
-void chooseTheAthlete(Tour& tour) {
-    tour.window("UtentiSelezione");
-    tour.fill("Ricerca", "d`am");
-    tour.key("Return");
-}
-
-void walkTheRoad(Tour& tour) {
-    writeGym(tour.folder());
-    tour.start();
-    tour.window("Principale");
-    tour.shot("principale");
-    tour.portrait("Principale");
-    enterAthlete(tour);
-    tour.click("Principale/nuova");
-    chooseTheAthlete(tour);
-    fillHeader(tour);
-    fillExercises(tour);
-    print(tour);
-    findItAgain(tour);
-    walkTheSideRoads(tour);
-    tour.click("Principale/esci");
-    tour.check(tour.waitForEnd() == 0, "the program ends well");
-    tour.check(!QFileInfo::exists(tour.folder() + "/splash.ps.aperta"), "no open card is left behind");
+/// tour_driver FOLDER PICTURES: the road of a card, from a new athlete to sheets on paper, and all of it
+/// found again; then the windows beside the road.
+int main(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    const QString folder = QCoreApplication::arguments().value(1);
+    try {
+        Tour tour(folder, QCoreApplication::arguments().value(2));
+        tour.start();
+        tour.window(u"Principale"_s);
+        tour.shot(u"principale"_s, {u"Principale"_s});
+        for (const auto stage :
+             {enterNames, writeCard, loseRestoreAndSave, print, findItAgain, useTemplates, lookRound})
+            stage(tour);
+        tour.check(!QFile::exists(folder + u"/splash.ps.aperta"_s), u"no open card is left behind"_s);
+    } catch (const std::runtime_error& error) {
+        std::fprintf(stderr, "The tour ends early: %s\n", error.what());
+        return EXIT_FAILURE;
+    }
 }

@@ -1,75 +1,49 @@
 #pragma once
 
-#include <QJsonObject>
-#include <QLocalSocket>
-#include <QProcess>
-#include <QString>
+#include "hand/RunningProgram.h"
 
-#include <functional>
-#include <stdexcept>
-
-/// What went wrong on the way, in words; the driver prints it and ends with a failure.
-class TourError : public std::runtime_error {
-public:
-    explicit TourError(const QString& text) : std::runtime_error(text.toStdString()) {}
-};
-
-/// A traveller at the real program: a real pointer, real keys, and questions to the probe about where things
-/// are. Targets are the probe's: NAME, WINDOW/NAME, NAME#row:0, NAME#tab:1, NAME#item:text, NAME#at:x,y,
-/// box#button:Sì. Every act waits until its target is seen and enabled (at most thirty seconds), else it
-/// raises TourError.
-class Tour {
+/// A traveller at the real program: a real pointer, real keys, and questions to the hand about where things
+/// are. Every act waits until its target is seen and can be used.
+class Tour : public RunningProgram {
 public:
     /// `folder` is the program's folder, `pictures` takes the screenshots.
-    Tour(QString folder, QString pictures);
-    ~Tour();
+    Tour(const QString& folder, QString pictures);
 
-    void start();
-    /// Waits for the process to end by itself; gives its exit code.
-    int waitForEnd();
-    /// Ends the process at once, as a power cut would; `start` starts another one.
-    void kill();
-    /// Starts the program a second time and gives the exit code of that second process.
-    int startAgain();
+    const QString pictures;
 
+    /// Where a target is, once it is there and does not move any more.
     QJsonObject where(const QString& target);
-    QString text(const QString& target);
-    bool visible(const QString& target);
-
     void click(const QString& target);
-    void doubleClick(const QString& target);
-    /// Presses on `from`, moves in small steps, and lets go on `to`.
+    /// Presses on `from`, moves in small steps, and lets go on `to`, or so many pixels away.
     void drag(const QString& from, const QString& to);
-    /// The same by pixels, from a target.
-    void dragBy(const QString& from, int dx, int dy);
-    void type(const QString& text);
-    void key(const QString& keys);
+    void drag(const QString& from, int dx, int dy);
     /// Clicks into a field, selects what stands there, and types.
     void fill(const QString& target, const QString& text);
 
-    /// Waits for a message box whose text contains `text`, takes its picture when `picture` is given, presses
-    /// `button`.
-    void box(const QString& text, const QString& button, const QString& picture = {});
-    /// Waits until a window of that object name is the active one.
+    /// Waits until a target's text contains `text`.
+    void reads(const QString& target, const QString& text);
+    /// Waits until the window of that object name is the active one.
     void window(const QString& name);
-    void until(const QString& what, const std::function<bool()>& condition);
-    void shot(const QString& name);
-    /// Keeps a picture of one window or page alone, as NAME.png in the folder `finestre` of the pictures.
-    void portrait(const QString& name);
-    void check(bool holds, const QString& what);
+    /// Clicks, waits for the window that comes, and takes its picture.
+    void go(const QString& target, const QString& name, const QString& picture = {});
+    /// The same by a menu, with a picture of that too.
+    void menu(const QString& title, const QString& item, const QString& name, const QString& picture);
+    /// Presses keys and waits for a window.
+    void key(const QString& keys, const QString& name);
+    /// Waits for a message box of that text and presses `button`.
+    void box(const QString& text, const QString& button, const QString& picture = {});
+    /// Prints from a window into a PDF beside the pictures; gives its path.
+    QString print(const QString& name, const QString& file, const QString& picture = {});
 
-    QString folder() const { return folder_; }
-    QString pictures() const { return pictures_; }
+    /// Keeps a picture of the screen, if it has a name, and of windows and pages alone as finestre/NAME.png.
+    void shot(const QString& name, const QStringList& portraits = {});
+    void check(bool holds, const QString& what);
+    /// Runs another program, which must succeed.
+    void run(const QString& program, const QStringList& arguments);
+
+protected:
+    [[noreturn]] void fail(const QString& what) override;
 
 private:
-    QJsonObject ask(const QString& question);
-    QJsonObject see(const QString& target);
-    void xdotool(const QStringList& arguments);
-    void moveTo(const QJsonObject& place);
-
-    QString folder_;
-    QString pictures_;
-    QProcess program;
-    QLocalSocket probe;
-    int shots = 0;
+    int shots_ = 0;
 };

@@ -1,0 +1,197 @@
+#include "Hand.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QRegularExpression>
+#include <QTabBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a target means: a part of a widget.
+struct Place {
+    QWidget* widget = nullptr;
+    QRect part;
+    QString text;
+    bool enabled = true;
+};
+
+QString textOf(const QWidget& widget) {
+    for (const char* property : {"text", "plainText", "currentText"}) {
+        if (const QVariant text = widget.property(property); text.isValid())
+            return text.toString();
+    }
+    return widget.windowTitle();
+}
+
+/// The widget of that name that shows, in the modal window if there is one.
+QWidget* named(const QString& target) {
+    const QString window = target.section(u'/', 0, 0);
+    const QString name = target.section(u'/', -1);
+    QWidget* best = nullptr;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        const QWidget* up = widget;
+        while (up && up->objectName() != window)
+            up = up->parentWidget();
+        if (up && widget->isVisible() && widget->objectName() == name &&
+            (!best || widget->window() == QApplication::activeModalWidget()))
+            best = widget;
+    }
+    return best;
+}
+
+/// Menu items are no widgets: they are found in the menu, or bar, that shows them.
+Place itemOfMenu(const QString& name) {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        auto* bar = qobject_cast<QMenuBar*>(widget);
+        auto* menu = qobject_cast<QMenu*>(widget);
+        for (QAction* action : widget->actions()) {
+            const QString menuName = action->menu() ? action->menu()->objectName() : QString();
+            if ((bar || menu) && widget->isVisible() && (action->objectName() == name || menuName == name))
+                return {widget, bar ? bar->actionGeometry(action) : menu->actionGeometry(action),
+                        action->text(), action->isEnabled()};
+        }
+    }
+    return {};
+}
+
+/// A row by its number, or the first item of that text at any depth.
+Place itemOf(QAbstractItemView& view, const QString& kind, const QString& value) {
+    const QAbstractItemModel& model = *view.model();
+    const QModelIndex root = view.rootIndex();
+    QModelIndex index = kind == u"row"_s ? model.index(value.toInt(), 0, root) : QModelIndex();
+    for (int column = 0; column < model.columnCount(root) && !index.isValid(); ++column)
+        index = model
+                    .match(model.index(0, column, root), Qt::DisplayRole, value, 1,
+                           Qt::MatchFixedString | Qt::MatchRecursive | Qt::MatchCaseSensitive)
+                    .value(0);
+    if (!index.isValid())
+        return {};
+    QRect rect = view.visualRect(index);
+    if (rect.isEmpty()) // the keys' column is hidden
+        rect = view.visualRect(index.siblingAtColumn(1));
+    return {view.viewport(), rect & view.viewport()->rect(), index.data().toString()};
+}
+
+Place find(const QString& target) {
+    QWidget* widget = named(target.section(u'#', 0, 0));
+    if (!widget || qobject_cast<QMenu*>(widget)) // a menu is pressed where its title stands
+        return itemOfMenu(target);
+    const QString part = target.section(u'#', 1);
+    const QString kind = part.section(u':', 0, 0);
+    const QString value = part.section(u':', 1);
+    if (kind == u"at"_s)
+        return {widget, QRect(value.section(u',', 0, 0).toInt(), value.section(u',', 1).toInt(), 1, 1), {}};
+    if (kind == u"button"_s) {
+        for (auto* button : widget->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && button->text().remove(u'&') == value)
+                return {button, button->rect(), value};
+        }
+        return {};
+    }
+    if (kind == u"tab"_s) {
+        auto* tabs = qobject_cast<QTabBar*>(widget);
+        tabs = tabs ? tabs : widget->findChild<QTabBar*>();
+        return tabs ? Place{tabs, tabs->tabRect(value.toInt()), {}} : Place();
+    }
+    if (auto* view = qobject_cast<QAbstractItemView*>(widget); view && !kind.isEmpty())
+        return itemOf(*view, kind, value);
+    return {widget, widget->rect(), textOf(*widget)};
+}
+
+QJsonObject told(const Place& place) {
+    if (!place.widget)
+        return {{u"shows"_s, false}};
+    const QWidget& widget = *place.widget;
+    const QRect part(widget.mapToGlobal(place.part.topLeft()), place.part.size());
+    const QPoint centre = part.center() * widget.devicePixelRatioF();
+    const QWidget* focus = QApplication::focusWidget();
+    return {{u"shows"_s, place.enabled && widget.isEnabled()},
+            {u"text"_s, place.text},
+            {u"x"_s, centre.x()},
+            {u"y"_s, centre.y()},
+            {u"area"_s, u"%1x%2+%3+%4"_s.arg(part.width()).arg(part.height()).arg(part.x()).arg(part.y())},
+            {u"focus"_s, focus && (focus == &widget || widget.isAncestorOf(focus))},
+            {u"active"_s, widget.isWindow() && widget.isActiveWindow()}};
+}
+
+void click(const Place& place) {
+    const QPoint at = place.part.center();
+    QWidget* inside = place.widget->childAt(at);
+    QWidget* target = inside ? inside : place.widget;
+    const QPointF local = target->mapFrom(place.widget, QPointF(at));
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+        QCoreApplication::postEvent(
+            target, new QMouseEvent(type, local, target->mapToGlobal(local), Qt::LeftButton,
+                                    type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, {}));
+}
+
+void write(QWidget& widget, const QString& text) {
+    const auto key = [&widget](int code, Qt::KeyboardModifiers modifiers, const QString& typed) {
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+            QCoreApplication::postEvent(&widget, new QKeyEvent(type, code, modifiers, typed));
+    };
+    key(Qt::Key_End, qobject_cast<QLineEdit*>(&widget) ? Qt::NoModifier : Qt::ControlModifier, {});
+    for (const QChar c : text)
+        key(c.toUpper().unicode(), Qt::NoModifier, c);
+}
+
+/// Parts of our controls, as the line of a combo box, have no name of ours and are left out.
+QJsonObject texts(const QString& window) {
+    static const QRegularExpression foreign(u"^(qt_.*|client|area)?$"_s);
+    QJsonObject found;
+    for (const QWidget* widget : QApplication::allWidgets()) {
+        const bool isField = widget->inherits("QLineEdit") || widget->inherits("QPlainTextEdit") ||
+                             widget->inherits("QComboBox") || widget->inherits("QLabel");
+        if (!isField || !widget->isVisible() || foreign.match(widget->objectName()).hasMatch())
+            continue;
+        QStringList path;
+        const QWidget* up = widget;
+        for (; up && up->objectName() != window; up = up->parentWidget()) {
+            if (!foreign.match(up->objectName()).hasMatch())
+                path.prepend(up->objectName());
+        }
+        if (up)
+            found[path.join(u'/')] = textOf(*widget);
+    }
+    return found;
+}
+
+QJsonObject answer(const QStringList& request) {
+    if (request[0] == u"texts"_s)
+        return texts(request[1]);
+    const Place place = find(request[1]);
+    if (request[0] != u"see"_s && place.widget)
+        click(place);
+    if (request[0] == u"write"_s && place.widget)
+        write(*place.widget, request[2]);
+    return told(place);
+}
+
+} // namespace
+
+QObject* Hand::create(const QString& /*key*/, const QString& /*options*/) {
+    auto server = std::make_unique<QLocalServer>();
+    server->listen(qEnvironmentVariable("QUIVERDECK_HAND"));
+    connect(server.get(), &QLocalServer::newConnection, server.get(), [server = server.get()] {
+        QLocalSocket* caller = server->nextPendingConnection();
+        connect(caller, &QLocalSocket::readyRead, caller, [caller] {
+            while (caller->canReadLine()) {
+                const QStringList request = QString::fromUtf8(caller->readLine()).chopped(1).split(u'\t');
+                caller->write(QJsonDocument(answer(request)).toJson(QJsonDocument::Compact) + '\n');
+                caller->flush();
+            }
+        });
+    });
+    return server.release();
+}
