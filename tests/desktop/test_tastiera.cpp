@@ -19,7 +19,6 @@
 #include "figures/SchedaPreviewFigura.h"
 #include "printing/PrinterCanvas.h"
 #include "printing/PrinterDaNonFare.h"
-#include "support/KeyboardWalk.h"
 #include "support/WindowChecks.h"
 #include "templates/SchedeMODELLONuova.h"
 #include "templates/SchedeMODELLOSelezione.h"

@@ -22,11 +22,11 @@ void givePictures(const ScratchProgram& program) {
     }
 }
 
-void givePicture(const ScratchProgram& program, QString file, const QColor& colour) {
+void givePicture(const ScratchProgram& program, QString file, const QColor& colour, QSize size) {
     const QString path = program.folder() + u"/images/"_s + file.replace(u'\\', u'/');
-    QImage picture(30, 30, QImage::Format_RGB32);
+    QImage picture(size, QImage::Format_RGB32);
     picture.fill(colour);
-    if (!QDir().mkpath(QFileInfo(path).path()) || !picture.save(path, "JPG", 100))
+    if (!QDir().mkpath(QFileInfo(path).path()) || !picture.save(path, nullptr, 100))
         throw std::runtime_error("cannot write " + path.toStdString());
 }
 

@@ -4,9 +4,7 @@
 #include "core/db.h"
 #include "platform/host/ProgramDirectory.h"
 #include "platform/host/Settings.h"
-
-#include <QDir>
-#include <QFile>
+#include "support/Files.h"
 
 #include <sqlite3.h>
 
@@ -51,13 +49,6 @@ void run(const Database& database, const QByteArray& sql, int (*row)(void*, int,
         throw std::runtime_error(sqlite3_errmsg(database.get()));
 }
 
-QByteArray read(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("cannot read " + path.toStdString());
-    return file.readAll();
-}
-
 } // namespace
 
 ScratchProgram::ScratchProgram() : folder_(root_.filePath(u"Palestra è qui/Quiverdeck"_s)) {
@@ -65,7 +56,7 @@ ScratchProgram::ScratchProgram() : folder_(root_.filePath(u"Palestra è qui/Quiv
         throw std::runtime_error("no scratch folder");
     const auto database = open(store(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
     run(database, "BEGIN");
-    run(database, read(QString::fromLocal8Bit(qgetenv("QUIVERDECK_SOURCE")) + u"/data/schema.sql"_s));
+    run(database, readFile(qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/data/schema.sql"_s));
     run(database, smallRows);
     run(database, "COMMIT");
     host::setProgramDirectory(folder_);
@@ -106,11 +97,9 @@ QStringList ScratchProgram::rows(const QString& query) const {
 }
 
 QStringList ScratchProgram::log() const {
-    const QString path = folder_ + u"/log.txt"_s;
-    if (!QFile::exists(path))
-        return {};
     constexpr qsizetype stampLength = 22; // "[dd/MM/yyyy hh:mm:ss] "
-    QStringList lines = QString::fromUtf8(read(path)).split(u"\r\n"_s, Qt::SkipEmptyParts);
+    QStringList lines =
+        QString::fromUtf8(readFile(folder_ + u"/log.txt"_s)).split(u"\r\n"_s, Qt::SkipEmptyParts);
     for (QString& line : lines)
         line.remove(0, stampLength);
     return lines;

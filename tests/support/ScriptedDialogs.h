@@ -3,9 +3,8 @@
 #include "platform/host/Services.h"
 #include "platform/toolkit/PrinterDialog.h"
 
-#include <QList>
+#include <QPageSize>
 #include <QPrinter>
-#include <QString>
 
 /// A printer dialog for tests: prints to a PDF of the test's own, or is dismissed. Installs itself.
 class ScriptedPrinterDialog : public toolkit::PrinterDialog {
@@ -15,7 +14,17 @@ public:
     ScriptedPrinterDialog(const ScriptedPrinterDialog&) = delete;
     ScriptedPrinterDialog& operator=(const ScriptedPrinterDialog&) = delete;
 
-    bool choose(QPrinter& printer, toolkit::PrintRange& range) override;
+    bool choose(QPrinter& printer, toolkit::PrintRange& range) override {
+        ++calls;
+        asked = range;
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(pdf);
+        printer.setPageSize(QPageSize(QPageSize::A4));
+        range.from = from > 0 ? from : range.from;
+        range.to = to > 0 ? to : range.to;
+        range.copies = copies;
+        return !pdf.isEmpty();
+    }
 
     QString pdf;  ///< where to print; empty: the dialog is dismissed
     int from = 0; ///< 0: what the caller proposes
@@ -34,9 +43,11 @@ public:
     ScriptedFileDialogs(const ScriptedFileDialogs&) = delete;
     ScriptedFileDialogs& operator=(const ScriptedFileDialogs&) = delete;
 
-    QString openFile(const QString& filter, const QString& folder) override;
+    QString openFile(const QString& filter, const QString& /*folder*/) override {
+        filters.append(filter);
+        return answer;
+    }
 
     QString answer;
     QStringList filters;
-    QStringList folders;
 };

@@ -9,13 +9,10 @@ namespace suite {
 
 using Run = int (*)(int argc, char** argv);
 
-/// Adds one class while the program starts. A file name with a leading "--" is run on demand alone.
+/// Adds one class while the program starts.
 struct Entry {
     Entry(const char* file, Run run);
 };
-
-/// Runs what the arguments ask for; the number of failures, 255 for an unknown name.
-int run(int argc, char** argv);
 
 } // namespace suite
 

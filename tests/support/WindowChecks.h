@@ -9,3 +9,14 @@ class QWidget;
 /// Each line names the control and the text. Hidden controls are left out; `QCOMPARE(cutTexts(form),
 /// QStringList())`.
 QStringList cutTexts(const QWidget& window);
+
+/// Controls that can take the focus and tell an assistive tool no name; empty when all is well.
+QStringList namelessControls(const QWidget& window);
+
+/// Where Tab leaps against the direction of reading: left to right in a row, rows from top to bottom, a
+/// column before the one at its right. Frames are read whole before what comes next, pages each
+/// for itself. Each line names two controls.
+QStringList leapsOfTab(const QWidget& window);
+
+/// How many controls Tab visits.
+qsizetype tabStops(const QWidget& window);

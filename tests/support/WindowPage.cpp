@@ -7,11 +7,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDateEdit>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTest>
@@ -25,10 +23,10 @@ void WindowPage::fail(const QString& what) const {
 }
 
 QWidget& WindowPage::widget(const QString& name) const {
-    const QList<QWidget*> found = window_.findChildren<QWidget*>(name);
-    if (found.isEmpty())
+    auto* found = window_.findChild<QWidget*>(name);
+    if (found == nullptr)
         fail(u"no control named "_s + name);
-    return *found.constFirst();
+    return *found;
 }
 
 QWidget& WindowPage::ready(const QString& name) const {
@@ -127,29 +125,17 @@ bool WindowPage::drop(const QString& name, const QString& text) const {
     data.setText(text);
     const QPoint middle = control.rect().center();
     QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    if (!control.acceptDrops())
-        return false;
+    QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&control, &enter);
-    if (!enter.isAccepted())
+    if (!control.acceptDrops() || !enter.isAccepted())
         return false;
-    QDropEvent dropEvent(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&control, &dropEvent);
-    return dropEvent.isAccepted();
+    QApplication::sendEvent(&control, &drop);
+    return drop.isAccepted();
 }
 
 QString WindowPage::text(const QString& name) const {
-    QWidget& control = widget(name);
-    if (const auto* line = qobject_cast<QLineEdit*>(&control))
-        return line->text();
-    if (const auto* area = qobject_cast<QPlainTextEdit*>(&control))
-        return area->toPlainText();
-    if (const auto* combo = qobject_cast<QComboBox*>(&control))
-        return combo->currentText();
-    if (const auto* label = qobject_cast<QLabel*>(&control))
-        return label->text();
-    if (const auto* date = qobject_cast<QDateEdit*>(&control))
-        return date->text();
-    if (const auto* button = qobject_cast<QAbstractButton*>(&control))
-        return button->text();
+    for (const char* property : {"text", "plainText", "currentText"})
+        if (const QVariant shown = widget(name).property(property); shown.isValid())
+            return shown.toString();
     fail(name + u" shows no text"_s);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "cards/mdiScheda.h"
+#include "core/variabiliGlobali.h"
 #include "support/FormPage.h"
 #include "support/Pictures.h"
 #include "support/RecordsTest.h"
@@ -11,12 +13,40 @@ class WindowTest : public RecordsTest {
     Q_OBJECT
 
 protected Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() {
+        RecordsTest::init();
+        azzera();
+        sql(u"INSERT INTO muscoli VALUES ('PET','Pettorali','Grande pettorale'),('VUO','Vuoto','');"
+            "INSERT INTO figure_muscoli VALUES (1,'PET');");
+        givePictures(program());
+    }
+    void cleanup() {
+        variabiliGlobali::inChiusura = true;
+        if (mdiScheda::esiste())
+            mdiScheda::comune().puoiChiudere = true;
+        toolkit::Form::destroyAll();
+        toolkit::Application::purge();
+        azzera();
+        RecordsTest::cleanup();
+    }
 
 protected:
     using Answer = host::Answer;
 
     /// The chosen athlete, card and template: "1 0 0".
-    static QString scelti();
+    static QString scelti() {
+        using namespace variabiliGlobali;
+        return QStringLiteral("%1 %2 %3")
+            .arg(idUtenteSelezionato)
+            .arg(idSchedaSelezionata)
+            .arg(idModelloSelezionato);
+    }
+
+private:
+    static void azzera() {
+        using namespace variabiliGlobali;
+        idUtenteSelezionato = idSchedaSelezionata = idModelloSelezionato = 0;
+        nomeModelloSelezionato.clear();
+        inChiusura = false;
+    }
 };
