@@ -1,32 +1,109 @@
 #pragma once
 
-#include "ProgrammaDiProva.h"
-#include "disegni.h"
-#include "finestraFinta.h"
-#include "fogli.h"
+#include "printing/FittedText.h"
+#include "printing/Page.h"
+#include "printing/SuperficieScheda.h"
+#include "support/Pictures.h"
+#include "support/RecordsTest.h"
 
-#include "support/Errors.h"
-#include "support/Suite.h"
+/// Sheets made in memory, cards stored, and a preview without a window.
+namespace fogli {
 
-#include <optional>
+/// A preview window without a window.
+struct FinestraFinta final : sheet::PreviewWindow {
+    sheet::Surface surface = sheet::cardSurface();
+    QString firstPanel;
 
-/// What tests of composed sheets share: each function finds a fresh program and an empty window.
-class SheetTest : public QObject {
+    sheet::Surface& canvas() override { return surface; }
+    double width() const override { return 15360; }
+    void setFirstPanel(const QString& text) override { firstPanel = text; }
+
+    sheet::Element& el(const char* name, int index = 0) {
+        return surface.element(QString::fromLatin1(name), index);
+    }
+};
+
+inline std::shared_ptr<Esercizio> freeText(int number, const QString& note) {
+    auto e = std::make_shared<Esercizio>();
+    e->nprog = number;
+    e->isLibero = true;
+    e->note = note;
+    return e;
+}
+
+/// A line with every value filled.
+inline std::shared_ptr<Esercizio> exercise(int number) {
+    auto e = freeText(number, QStringLiteral("Schiena dritta"));
+    e->isLibero = false;
+    e->id_fig = 1;
+    e->durata = QStringLiteral("45s");
+    e->frequenza = QStringLiteral("35Hz");
+    e->ampiezza = QStringLiteral("H");
+    e->serie = 3;
+    e->recuperoMin = 1;
+    e->recuperoSec = 90;
+    e->modalita = QStringLiteral("Dinamico a carico aggiuntivo");
+    e->peso = QStringLiteral("12 kg");
+    return e;
+}
+
+/// A sheet with the exercises 1 to `exercises`.
+inline Page page(int exercises, bool last = true, const QString& notes = {}) {
+    Page result;
+    result.scheda = std::make_shared<scheda>();
+    result.scheda->cognomeUtente = QStringLiteral("D’Angelo");
+    result.scheda->nomeUtente = QStringLiteral("Niccolò");
+    result.scheda->Istruttore = QStringLiteral("Bianchi Zoë");
+    result.scheda->PeriodoDal = QStringLiteral("01/03/2026");
+    result.scheda->PeriodoAl = QStringLiteral("22/03/2026");
+    result.scheda->FreqAllen = 3;
+    result.scheda->GGAllen = QStringLiteral("001010100");
+    result.scheda->note = notes;
+    result.isLastPage = last;
+    for (int i = 1; i <= exercises; ++i)
+        result.esercizi.Add(exercise(i));
+    return result;
+}
+
+/// Stores a card of a new athlete with `exercises` lines, every fifth of them free text. Gives its key.
+inline qint32 storedCard(const ScratchProgram& program, int exercises) {
+    program.sql(QStringLiteral("INSERT INTO utenti (nome, cognome) VALUES ('Anna', 'Rossi')"));
+    scheda card;
+    card.id_utente = program.rows(QStringLiteral("SELECT max(id_utente) FROM utenti")).constFirst().toInt();
+    card.categoria = QStringLiteral("Generale");
+    for (int i = 1; i <= exercises; ++i)
+        card.esercizi->Add(i % 5 == 0 ? freeText(i, QStringLiteral("libero")) : exercise(i));
+    return card.save();
+}
+
+} // namespace fogli
+
+/// What tests of composed sheets share: each function finds an empty window and a fresh program, in which
+/// figure 1 has its picture and figure 2 has none.
+class SheetTest : public RecordsTest {
     Q_OBJECT
 
 protected Q_SLOTS:
     void init() {
-        program_.emplace();
-        window = FinestraFinta();
+        RecordsTest::init();
+        window = fogli::FinestraFinta();
+        givePicture(program(), QStringLiteral("q/001.jpg"), Qt::red);
     }
-    void cleanup() { program_.reset(); }
 
 protected:
-    const ProgrammaDiProva& program() const { return *program_; }
     sheet::Element& el(const char* name, int index = 0) { return window.el(name, index); }
 
-    FinestraFinta window;
+    /// The texts that are cut, set smaller or narrower than that, or wider than their box.
+    static QStringList illFitting(const sheet::Surface& surface, double sizeScale, double widthScale) {
+        QStringList names;
+        for (const sheet::Element& e : surface.elements()) {
+            const sheet::FittedText fitted(e);
+            if (e.visible && (fitted.isCut() || fitted.sizeScale() < sizeScale ||
+                              fitted.widthScale() < widthScale || fitted.bounds().width() > e.width + 1))
+                names << e.name + QString::number(e.index);
+        }
+        return names;
+    }
 
-private:
-    std::optional<ProgrammaDiProva> program_;
+    fogli::FinestraFinta window;
 };
