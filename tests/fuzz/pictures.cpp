@@ -2,9 +2,9 @@
 #include "platform/pictures/PictureFile.h"
 #include "printing/Picture.h"
 #include "support/Errors.h"
+#include "support/Files.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QImageWriter>
 #include <QLoggingCategory>
 #include <QTemporaryDir>
@@ -14,8 +14,6 @@ using pictures::PictureFile;
 
 namespace {
 
-constexpr QSizeF box(900, 600); // twips: 60 × 40 pixels, 240 × 160 for the printer
-
 QByteArray saved(const QImage& image, const char* format, bool progressive = false) {
     QBuffer buffer;
     QImageWriter writer(&buffer, format);
@@ -24,26 +22,14 @@ QByteArray saved(const QImage& image, const char* format, bool progressive = fal
     return buffer.data();
 }
 
-/// `bytes` with `claim` written at `at`.
-QByteArray claiming(QByteArray bytes, qsizetype at, const QByteArray& claim) {
-    return bytes.replace(at, claim.size(), claim);
-}
-
 } // namespace
 
 /// A logo is chosen through PictureFile and printed through sheet::Picture.
 void fuzz::pictures(const QByteArray& input) {
     static const QTemporaryDir folder;
-    [[maybe_unused]] static const bool quiet = [] {
-        QLoggingCategory::setFilterRules(u"qt.gui.imageio*=false"_s); // what the decoders say of each damage
-        return true;
-    }();
+    QLoggingCategory::setFilterRules(u"qt.gui.imageio*=false"_s); // what the decoders say of each damage
     const QString path = folder.filePath(u"logo.jpg"_s);
-    QFile file(path);
-    require(file.open(QIODevice::WriteOnly) && file.write(input) == input.size(),
-            "the scratch file is written");
-    file.close();
-
+    writeFile(path, input);
     QSize own;
     QImage whole;
     QImage fitted;
@@ -54,17 +40,15 @@ void fuzz::pictures(const QByteArray& input) {
         fitted = picture.fitted({60, 40});
         return 0;
     });
-    sheet::Picture printed;
+    sheet::Picture printed; // in 60 × 40 pixels, 240 × 160 for the printer
     const int unprinted = errorOf([&] {
-        printed = sheet::Picture::fromFile(path, box);
+        printed = sheet::Picture::fromFile(path, {900, 600});
         return 0;
     });
     for (const int error : {refused, unprinted})
         require(error == 0 || error == PictureFile::badPicture, "a picture or a bad picture");
-
     if (refused == 0) {
-        require(!whole.isNull() && whole.width() <= PictureFile::largest &&
-                    whole.height() <= PictureFile::largest,
+        require(!whole.isNull() && std::max(whole.width(), whole.height()) <= PictureFile::largest,
                 "a whole picture keeps to its largest size");
         require(fitted.size() == own.scaled(60, 40, Qt::KeepAspectRatio).expandedTo({1, 1}),
                 "a fitted picture keeps its proportions in the box");
@@ -84,25 +68,27 @@ QList<QByteArray> fuzz::pictureSeeds() {
     for (int x = 0; x < 20; ++x)
         image.setPixelColor(x * 7, x, QColor(x * 12, 255 - x, 90, 255 - x));
     const QImage opaque = image.convertToFormat(QImage::Format_RGB32);
-    const QByteArray jpeg = saved(opaque, "jpeg");
     const QByteArray bmp = saved(opaque, "bmp");
-    const QByteArray gif = QByteArray::fromHex("47494638396102000100800000ff00000000ff"
-                                               "2c00000000020001000002028451003b");
-    QList<QByteArray> seeds{jpeg,
+    const auto gif =
+        QByteArray::fromHex("47494638396102000100800000ff00000000ff2c00000000020001000002028451003b");
+    QList<QByteArray> seeds{saved(opaque, "jpeg"),
                             saved(opaque, "jpeg", true),
                             bmp,
                             saved(image, "png"),
                             gif,
                             saved(image.convertToFormat(QImage::Format_Indexed8), "png"),
                             saved(image.convertToFormat(QImage::Format_Mono), "bmp")};
-    for (const QByteArray& picture : {seeds[0], seeds[1]}) {
-        const qsizetype frame = std::max(picture.indexOf("\xff\xc0"), picture.indexOf("\xff\xc2")) + 5;
-        seeds += claiming(picture, frame, QByteArray::fromHex("ffdcffdc"));
-        seeds += claiming(picture, frame, QByteArray::fromHex("04000400"));
-    }
-    seeds += claiming(bmp, 18, QByteArray::fromHex("ffffff7fffffff7f"));
-    seeds += claiming(bmp, 18, QByteArray::fromHex("0005000000050000"));
+    // Heads that claim more than they hold.
+    const auto claim = [&seeds](QByteArray picture, qsizetype at, const char* hex) {
+        const QByteArray bytes = QByteArray::fromHex(hex);
+        seeds += picture.replace(at, bytes.size(), bytes);
+    };
+    for (const QByteArray& picture : {seeds[0], seeds[1]})
+        for (const char* size : {"ffdcffdc", "04000400"})
+            claim(picture, std::max(picture.indexOf("\xff\xc0"), picture.indexOf("\xff\xc2")) + 5, size);
+    for (const char* size : {"ffffff7fffffff7f", "0005000000050000"})
+        claim(bmp, 18, size);
     for (const char* screen : {"ffffffff", "91e90100"}) // larger than the frame
-        seeds += claiming(gif, 6, QByteArray::fromHex(screen));
+        claim(gif, 6, screen);
     return seeds;
 }

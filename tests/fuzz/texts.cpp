@@ -1,12 +1,17 @@
 #include "fuzz/Fuzz.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Error.h"
+#include "platform/store/Dialect.h"
 #include "support/Errors.h"
+
+#include <QRegularExpression>
 
 #include <charconv>
 #include <cmath>
 #include <cstring>
 #include <limits>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,11 +37,18 @@ template <class T> void narrowing(double value, T (*narrow)(double)) {
     const bool fits =
         value >= std::numeric_limits<T>::min() - 0.5 && value < std::numeric_limits<T>::max() + 0.5;
     fuzz::require(error == (fits ? 0 : runtime::Overflow), "a number fits or is an overflow");
-    if (fits) {
-        const double off = std::abs(whole - value);
-        fuzz::require(off < 0.5 || (off == 0.5 && whole % 2 == 0),
-                      "rounding goes to the nearest, ties to even");
-    }
+    const double off = fits ? std::abs(whole - value) : 0;
+    fuzz::require(off < 0.5 || (off == 0.5 && whole % 2 == 0), "rounding goes to the nearest, ties to even");
+}
+
+/// The quoted texts and bracketed names from left to right; an unclosed one reaches to the end.
+QStringList quoted(const QString& sql) {
+    static const QRegularExpression form(
+        uR"('[^']*(?:'|\z)|"[^"]*(?:"|\z)|`[^`]*(?:`|\z)|\[[^\]]*(?:\]|\z))"_s);
+    QStringList texts;
+    for (auto all = form.globalMatch(sql); all.hasNext();)
+        texts += all.next().captured();
+    return texts;
 }
 
 } // namespace
@@ -45,12 +57,10 @@ void fuzz::numbers(const QByteArray& input) {
     const QString text = QString::fromUtf8(input);
     const double leading = runtime::leadingNumber(text);
     require(leading == prefix(text), "the leading number is that of the longest numeric prefix");
-
     double strict = 0;
     const int error = errorOf([&] { return strict = runtime::strictNumber(text); });
     require(error == (runtime::isNumber(text) ? 0 : runtime::TypeMismatch), "a number or a mismatch");
-    if (error == 0 && !text.contains(u','))
-        require(strict == leading, "a whole number text is its own prefix");
+    require(error != 0 || text.contains(u',') || strict == leading, "a whole number text is its own prefix");
     const int boolean = errorOf([&] { return runtime::textToBoolean(text); });
     require(boolean == 0 || boolean == runtime::TypeMismatch, "a Boolean or a mismatch");
     if (const auto byte = runtime::wholeByte(text))
@@ -68,5 +78,28 @@ void fuzz::numbers(const QByteArray& input) {
         require(runtime::strictNumber(plain) == value && runtime::leadingNumber(plain) == value,
                 "a number's text reads back as the number");
         require(!plain.contains(u'e', Qt::CaseInsensitive), "a number's text has no exponent");
+    }
+}
+
+void fuzz::dialect(const QByteArray& input) {
+    const QString sql = QString::fromUtf8(input);
+    const QString result = store::translate(sql);
+    require(store::translate(result) == result, "a translated statement stays as it is");
+    static const QRegularExpression literal(u"^'\\d{4}-\\d\\d-\\d\\d( \\d\\d:\\d\\d:\\d\\d)?'$"_s);
+    QStringList before = quoted(sql);
+    for (const QString& text : quoted(result)) {
+        if (!before.isEmpty() && text == before.first())
+            before.removeFirst();
+        else
+            require(literal.match(text).hasMatch(), "only date literals become quoted texts");
+    }
+    require(before.isEmpty(), "quoted texts are all still there");
+    require(result == sql || sql.contains(u'#') || sql.contains(u"delete"_s, Qt::CaseInsensitive),
+            "a statement without the dialect's forms is not touched");
+    for (const QChar mark : {u'\'', u'"', u'`'}) { // whatever stands between quotes is the user's
+        const QString text = mark + QString(sql).replace(mark, QString(2, mark)) + mark;
+        require(store::translate(u"DELETE * FROM t WHERE a="_s + text + u" AND d=#12/31/2005#"_s) ==
+                    u"DELETE FROM t WHERE a="_s + text + u" AND d='2005-12-31'"_s,
+                "a planted text is kept, and what surrounds it translated");
     }
 }
