@@ -70,7 +70,7 @@ private Q_SLOTS:
             QVERIFY(qGray(image.pixel(2, 2)) > 250); // white ground
             small.emplace_back(file.fileName(), image.scaled(48, 45, {}, Qt::SmoothTransformation));
             const int dark = pixelsThat(small.back().second, [](QRgb c) { return qGray(c) < 120; });
-            QVERIFY2(dark > 50, row.code.c_str());
+            QVERIFY2(dark > 20, row.code.c_str());
         }
         QCOMPARE(folder.entryList(QDir::Files).size(), static_cast<qsizetype>(small.size()));
         // Mean over the points that are not white in both.
