@@ -23,12 +23,3 @@ public:
     int lastNumber = 0;
     QString description;
 };
-
-/// The main function of a test of windows: the program's own application, texts and style.
-#define QUIVERDECK_WINDOW_TEST_MAIN(Test)                                                                    \
-    int main(int argc, char** argv) {                                                                        \
-        toolkit::Application application(argc, argv);                                                        \
-        Test test;                                                                                           \
-        QTEST_SET_MAIN_SOURCE_PATH                                                                           \
-        return QTest::qExec(&test, argc, argv);                                                              \
-    }

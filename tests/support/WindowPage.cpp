@@ -65,10 +65,6 @@ void WindowPage::type(const QString& name, const QString& text) const {
         QTest::keyClicks(&control, text);
 }
 
-void WindowPage::typeOn(const QString& name, const QString& text) const {
-    QTest::keyClicks(&ready(name), text);
-}
-
 void WindowPage::key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers) const {
     QTest::keyClick(&ready(name), key, modifiers);
 }

@@ -29,8 +29,6 @@ public:
     void press(const QString& name) const;
     /// Puts the focus on a field by a click and replaces its text by typing.
     void type(const QString& name, const QString& text) const;
-    /// Types at the field's caret, without a click.
-    void typeOn(const QString& name, const QString& text) const;
     void key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     /// Chooses a combo box's item by arrow keys from the first one.
     void choose(const QString& combo, const QString& item) const;
