@@ -12,6 +12,10 @@
 
 #include <QFileInfo>
 
+#include <optional>
+#include <utility>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 using namespace variabiliGlobali;
@@ -42,9 +46,9 @@ bool RipresaScheda::scrivi() {
     if (riaprendo_)
         return true;
     if (!editorAperto()) {
-        if (!scritto_.isEmpty()) {
+        if (scritto_) {
             file_.rimuovi();
-            scritto_.clear();
+            scritto_.reset();
         }
         return true;
     }
@@ -60,16 +64,16 @@ bool RipresaScheda::scrivi() {
                           .ora = {}};
     if (SchedaCorpo::esiste() && SchedaCorpo::comune().isLoaded())
         sospesa.pagina = SchedaCorpo::comune().pagina();
-    const QByteArray stato = sospesa.stato();
+    SchedaSospesa::Stato stato = sospesa.stato();
     if (stato == scritto_)
         return true;
-    if (scritto_.isEmpty() && file_.leggi()) {
+    if (!scritto_ && file_.leggi()) {
         // Of an earlier run: when it was offered the store could not be read.
         file_.mettiDaParte(u"precedente"_s);
     }
     if (!file_.scrivi(SchedaSospesa::file(stato, QDateTime::currentDateTime())))
         return false;
-    scritto_ = stato;
+    scritto_ = std::move(stato);
     return true;
 }
 

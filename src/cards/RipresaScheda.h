@@ -3,7 +3,7 @@
 #include "cards/FileSospeso.h"
 #include "cards/SchedaSospesa.h"
 
-#include <QByteArray>
+#include <optional>
 
 /// Keeps the card that stands in the editor in its side file, from the first event to the editor's end, and
 /// offers it again at the next start.
@@ -25,7 +25,7 @@ private:
     void scarta(const QString& motivo, const QString& spiegazione) const;
 
     FileSospeso file_;
-    QByteArray scritto_; ///< the state that the file holds; empty for none of ours
+    std::optional<SchedaSospesa::Stato> scritto_; ///< what the file holds; nothing if it is none of ours
     RigheEliminate eliminate_;
     bool avvisato_ = false;
     bool riaprendo_ = false; ///< the file stays as it is: half a page is less than it holds

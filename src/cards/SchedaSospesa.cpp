@@ -1,6 +1,5 @@
 #include "cards/SchedaSospesa.h"
 
-#include "cards/TestoJson.h"
 #include "cards/scheda.h"
 #include "core/db.h"
 #include "platform/runtime/Dates.h"
@@ -12,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <set>
 #include <utility>
@@ -88,6 +86,17 @@ template <class Campo> void campiScheda(SchedaApribile& s, const Campo& campo) {
     }
 }
 
+class Scrittore {
+public:
+    explicit Scrittore(QJsonObject& oggetto) : oggetto_(oggetto) {}
+    template <class Valore> void operator()(QLatin1StringView nome, const Valore& valore) const {
+        oggetto_.insert(nome, QJsonValue(valore));
+    }
+
+private:
+    QJsonObject& oggetto_;
+};
+
 /// Takes only a value of the field's own kind and range; `bene` turns false at the first other one.
 class Lettore {
 public:
@@ -115,25 +124,26 @@ private:
     bool& bene_;
 };
 
-void scriviRiga(TestoJson& testo, const Esercizio& e) {
-    testo.apriOggetto();
-    campiRiga(e, std::ref(testo));
-    testo.chiudiOggetto();
+template <class Elemento, class Scrivi>
+QJsonArray elenco(const std::vector<Elemento>& elementi, const Scrivi& scrivi) {
+    QJsonArray array;
+    for (const Elemento& elemento : elementi) {
+        QJsonObject o;
+        scrivi(elemento, Scrittore(o));
+        array.append(o);
+    }
+    return array;
 }
 
-void scriviPagina(TestoJson& testo, const PaginaEsercizi& pagina) {
-    testo.apriOggetto();
-    testo("massimo"_L1, pagina.massimo);
-    testo("posizione"_L1, pagina.posizione);
-    testo.nome("righe"_L1);
-    testo.apriElenco();
-    for (const TestiRiga& riga : pagina.righe) {
-        testo.apriOggetto();
-        campiTesti(riga, std::ref(testo));
-        testo.chiudiOggetto();
-    }
-    testo.chiudiElenco();
-    testo.chiudiOggetto();
+QJsonArray elencoRighe(const std::vector<Esercizio>& righe) {
+    return elenco(righe, [](const Esercizio& e, const Scrittore& campo) { campiRiga(e, campo); });
+}
+
+QJsonObject oggetto(const PaginaEsercizi& pagina) {
+    return {{"posizione"_L1, pagina.posizione},
+            {"massimo"_L1, pagina.massimo},
+            {"righe"_L1,
+             elenco(pagina.righe, [](const TestiRiga& t, const Scrittore& campo) { campiTesti(t, campo); })}};
 }
 
 /// The objects of an array, each through `leggi`; false for anything else.
@@ -209,37 +219,29 @@ std::set<qint32> righeEsistenti(const SchedaApribile::Esercizi& righe, bool isMo
 
 } // namespace
 
-QByteArray SchedaSospesa::stato() const {
-    TestoJson testo;
-    testo.apriOggetto();
-    testo("isModello"_L1, scheda->isModello);
-    campiSospesa(*this, std::ref(testo));
-    testo.nome("scheda"_L1);
-    testo.apriOggetto();
-    campiScheda(*scheda, std::ref(testo));
-    testo.chiudiOggetto();
-    testo.nome("esercizi"_L1);
-    testo.apriElenco();
+SchedaSospesa::Stato SchedaSospesa::stato() const {
+    Stato stato{.testata = {{"isModello"_L1, scheda->isModello}},
+                .esercizi = {},
+                .eliminati = eliminati,
+                .pagina = pagina};
+    campiSospesa(*this, Scrittore(stato.testata));
+    QJsonObject testata;
+    campiScheda(*scheda, Scrittore(testata));
+    stato.testata.insert("scheda"_L1, testata);
+    stato.esercizi.reserve(static_cast<std::size_t>(scheda->esercizi->Count()));
     for (const auto& riga : *scheda->esercizi)
-        scriviRiga(testo, *riga);
-    testo.chiudiElenco();
-    testo.nome("eliminati"_L1);
-    testo.apriElenco();
-    for (const Esercizio& riga : eliminati)
-        scriviRiga(testo, riga);
-    testo.chiudiElenco();
-    testo.nome("pagina"_L1);
-    if (pagina)
-        scriviPagina(testo, *pagina);
-    else
-        testo.nullo();
-    testo.chiudiOggetto();
-    return testo.testo();
+        stato.esercizi.push_back(*riga);
+    return stato;
 }
 
-QByteArray SchedaSospesa::file(const QByteArray& stato, const QDateTime& ora) {
-    return R"({"versione":)" + QByteArray::number(versione) + R"(,"ora":")" +
-           ora.toString(Qt::ISODate).toLatin1() + R"(","stato":)" + stato + "}\n";
+QByteArray SchedaSospesa::file(const Stato& stato, const QDateTime& ora) {
+    QJsonObject tutto = stato.testata;
+    tutto.insert("esercizi"_L1, elencoRighe(stato.esercizi));
+    tutto.insert("eliminati"_L1, elencoRighe(stato.eliminati));
+    tutto.insert("pagina"_L1, stato.pagina ? oggetto(*stato.pagina) : QJsonValue());
+    return QJsonDocument(
+               {{"versione"_L1, versione}, {"ora"_L1, ora.toString(Qt::ISODate)}, {"stato"_L1, tutto}})
+        .toJson(QJsonDocument::Compact);
 }
 
 std::optional<SchedaSospesa> SchedaSospesa::leggi(const QByteArray& file) {

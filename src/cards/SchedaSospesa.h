@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QJsonObject>
 #include <QString>
 
 #include <memory>
@@ -17,6 +18,8 @@ struct TestiRiga {
     bool isLibero = false;
     QString figura; ///< the picture's Tag
     QString durata, frequenza, ampiezza, recuperoMin, recuperoSec, serie, modalita, peso, note, noteLibere;
+
+    bool operator==(const TestiRiga&) const = default;
 };
 
 /// The exercise page: where it stands in the list, the end of its scroll bar, and its rows.
@@ -24,6 +27,8 @@ struct PaginaEsercizi {
     qint32 posizione = 1;
     qint32 massimo = 1;
     std::vector<TestiRiga> righe;
+
+    bool operator==(const PaginaEsercizi&) const = default;
 };
 
 /// The card or template that stands in the editor, with all that the editor shows of it: what must outlive
@@ -40,10 +45,20 @@ struct SchedaSospesa {
     std::vector<Esercizio> eliminati;     ///< lines deleted since the card was opened
     QDateTime ora;                        ///< of the last change; only `leggi` sets it
 
-    /// The state without its time: equal states have equal bytes.
-    QByteArray stato() const;
+    /// All that the file holds but its time, as values that share their texts: taken and compared after each
+    /// event, where the file's text is wanted only for a change.
+    struct Stato {
+        QJsonObject testata; ///< what is no list
+        std::vector<Esercizio> esercizi;
+        std::vector<Esercizio> eliminati;
+        std::optional<PaginaEsercizi> pagina;
+
+        bool operator==(const Stato&) const = default;
+    };
+
+    Stato stato() const;
     /// The contents of the file for a state.
-    static QByteArray file(const QByteArray& stato, const QDateTime& ora);
+    static QByteArray file(const Stato& stato, const QDateTime& ora);
     /// Reads a file's contents; nothing if they are damaged, incomplete or of another version.
     static std::optional<SchedaSospesa> leggi(const QByteArray& file);
 

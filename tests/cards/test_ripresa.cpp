@@ -55,7 +55,7 @@ class TestRipresa : public EditorTest {
 
 private Q_SLOTS:
     void opensJustAsItWas() {
-        QByteArray prima;
+        SchedaSospesa::Stato prima;
         const auto vista = [] {
             SchedaSospesa s;
             s.scheda = mdiScheda::comune().schedaAperta;
