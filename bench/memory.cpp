@@ -8,7 +8,6 @@
 #include "cards/SchedaCorpo.h"
 #include "cards/mdiScheda.h"
 #include "core/variabiliGlobali.h"
-#include "platform/toolkit/Toolbar.h"
 
 #include <QAbstractButton>
 #include <QFile>

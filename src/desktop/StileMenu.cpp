@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -26,18 +25,6 @@ QFont variante(QFont font, bool grassetto, bool sottolineato) {
         font.setWeight(static_cast<QFont::Weight>(std::min(font.weight() + pesoInPiu, 1000)));
     font.setUnderline(sottolineato);
     return font;
-}
-
-/// A frame around the inside of `posto`. It is filled, not drawn as lines: on a screen of a broken scale a
-/// line can fall between the pixels or behind the window's edge.
-void disegnaBordo(const QRect& posto, const QColor& colore, QPainter& painter) {
-    const qreal densita = painter.device()->devicePixelRatioF();
-    const qreal spessore = densita == std::floor(densita) ? 1 : 1.5;
-    const QRectF r(posto);
-    painter.fillRect(QRectF(r.left(), r.top(), r.width(), spessore), colore);
-    painter.fillRect(QRectF(r.left(), r.bottom() - spessore, r.width(), spessore), colore);
-    painter.fillRect(QRectF(r.left(), r.top(), spessore, r.height()), colore);
-    painter.fillRect(QRectF(r.right() - spessore, r.top(), spessore, r.height()), colore);
 }
 
 void disegnaSeparatore(const QRect& posto, const QPalette& colori, QPainter& painter) {
@@ -99,7 +86,7 @@ QSize StileMenu::sizeFromContents(ContentsType type, const QStyleOption* option,
 void StileMenu::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {
     if (element == PE_FrameMenu) {
-        disegnaBordo(option->rect, option->palette.color(QPalette::Mid), *painter);
+        fillFrame(*painter, option->rect, option->palette.color(QPalette::Mid));
         return;
     }
     if (element != PE_PanelMenu) {
@@ -149,7 +136,7 @@ void StileMenu::disegnaVoce(const QStyleOptionMenuItem& voce, QPainter& painter)
         const QColor scelta = voce.palette.color(QPalette::Normal, QPalette::Highlight);
         const QRect cornice = voce.rect.adjusted(1, 0, -1, 0);
         painter.fillRect(cornice, miscela(scelta, voce.palette.color(QPalette::Base), 0.18));
-        disegnaBordo(cornice, scelta, painter);
+        fillFrame(painter, cornice, scelta);
     }
     disegnaImmagine(voce, {voce.rect.left(), voce.rect.top(), colonna, voce.rect.height()}, painter);
     painter.setPen(voce.palette.color(attiva ? QPalette::Normal : QPalette::Disabled, QPalette::Text));

@@ -56,16 +56,6 @@ void drawChevron(QPainter* painter, const QRect& place, const QColor& colour) {
     painter->restore();
 }
 
-/// A frame of one pixel, filled rather than drawn with a pen: where the screen's scale is no whole number, a
-/// pen's line may fall outside of the widget and vanish.
-void drawOutline(QPainter* painter, const QRect& frame) {
-    const QRectF r(frame);
-    painter->fillRect(QRectF(r.left(), r.top(), r.width(), 1), line());
-    painter->fillRect(QRectF(r.left(), r.bottom() - 1, r.width(), 1), line());
-    painter->fillRect(QRectF(r.left(), r.top(), 1, r.height()), line());
-    painter->fillRect(QRectF(r.right() - 1, r.top(), 1, r.height()), line());
-}
-
 } // namespace
 
 QuiverStyle::QuiverStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
@@ -268,12 +258,18 @@ void QuiverStyle::drawCombo(const QStyleOptionComplex* option, QPainter* painter
 
 void QuiverStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                      QPainter* painter, const QWidget* widget) const {
-    if (control == CC_TitleBar)
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_TitleBar) {
         drawTitleBar(option, painter, widget);
-    else if (control == CC_ComboBox)
+    } else if (control == CC_ComboBox) {
         drawCombo(option, painter, widget);
-    else
+    } else if (slider != nullptr) {
+        QStyleOptionSlider bar = *slider;
+        bar.palette = common(bar.palette);
+        QProxyStyle::drawComplexControl(control, &bar, painter, widget);
+    } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
 }
 
 void QuiverStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -287,10 +283,30 @@ void QuiverStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         return;
     }
     if (element == PE_Frame) { // lists, texts of several lines, pictures
-        drawOutline(painter, option->rect);
+        fillFrame(*painter, option->rect, line());
+        return;
+    }
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (button != nullptr) {
+        QStyleOptionButton panel = *button;
+        panel.palette = common(panel.palette);
+        QProxyStyle::drawPrimitive(element, &panel, painter, widget);
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void QuiverStyle::fillFrame(QPainter& painter, const QRect& frame, const QColor& colour) {
+    const QRectF r(frame);
+    painter.fillRect(QRectF(r.left(), r.top(), r.width(), 1), colour);
+    painter.fillRect(QRectF(r.left(), r.bottom() - 1, r.width(), 1), colour);
+    painter.fillRect(QRectF(r.left(), r.top(), 1, r.height()), colour);
+    painter.fillRect(QRectF(r.right() - 1, r.top(), 1, r.height()), colour);
+}
+
+QPalette QuiverStyle::common(const QPalette& palette) const {
+    const auto known = std::find(palettes_.begin(), palettes_.end(), palette);
+    return known != palettes_.end() ? *known : palettes_.emplace_back(palette);
 }
 
 } // namespace toolkit

@@ -3,6 +3,8 @@
 #include <QPalette>
 #include <QProxyStyle>
 
+#include <vector>
+
 namespace toolkit {
 
 /// The program's look on every desktop: light, one accent colour; arrows, tabs and margins so narrow that
@@ -31,9 +33,20 @@ public:
 
     static constexpr int arrowWidth = 14; ///< pixels of a combo box's arrow
 
+protected:
+    /// A frame of one pixel inside `frame`, filled rather than drawn with a pen: where the screen's scale is
+    /// no whole number, a pen's line may fall outside of the widget and vanish.
+    static void fillFrame(QPainter& painter, const QRect& frame, const QColor& colour);
+
 private:
     void drawTitleBar(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;
     void drawCombo(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;
+    /// The one palette that stands for all equal ones. Each widget has a copy of its own, and the style below
+    /// keeps what it draws of scroll bars and buttons under a name with the copy's number in it: without this
+    /// every opening of a window would draw them anew and leave its names in the pixmap cache for good.
+    QPalette common(const QPalette& palette) const;
+
+    mutable std::vector<QPalette> palettes_; ///< a handful: those that differ
 };
 
 } // namespace toolkit
