@@ -2,8 +2,8 @@
 
 #include "core/ModuloBase.h"
 #include "platform/host/ProgramDirectory.h"
+#include "platform/runtime/Dates.h"
 
-#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 
@@ -65,8 +65,7 @@ void FileSospeso::rimuovi() const {
 }
 
 QString FileSospeso::mettiDaParte(const QString& motivo) const {
-    const QString radice =
-        percorso_ + u'.' + motivo + u'-' + QDateTime::currentDateTime().toString(u"yyyyMMdd-HHmmss"_s);
+    const QString radice = percorso_ + u'.' + motivo + u'-' + runtime::now().toString(u"yyyyMMdd-HHmmss"_s);
     QString nome = radice;
     for (int n = 2; QFileInfo::exists(nome); ++n)
         nome = radice + u'-' + QString::number(n);

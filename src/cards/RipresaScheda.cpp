@@ -7,6 +7,7 @@
 #include "core/Finestre.h"
 #include "core/variabiliGlobali.h"
 #include "platform/host/Services.h"
+#include "platform/runtime/Dates.h"
 #include "platform/runtime/Error.h"
 #include "templates/SchedaModello.h"
 
@@ -67,11 +68,10 @@ bool RipresaScheda::scrivi() {
     SchedaSospesa::Stato stato = sospesa.stato();
     if (stato == scritto_)
         return true;
-    if (!scritto_ && file_.leggi()) {
-        // Of an earlier run: when it was offered the store could not be read.
-        file_.mettiDaParte(u"precedente"_s);
-    }
-    if (!file_.scrivi(SchedaSospesa::file(stato, QDateTime::currentDateTime())))
+    // One of an earlier run: when it was offered the store could not be read.
+    if (!scritto_ && file_.esiste() && file_.mettiDaParte(u"precedente"_s).isEmpty())
+        return false;
+    if (!file_.scrivi(SchedaSospesa::file(stato, runtime::now())))
         return false;
     scritto_ = std::move(stato);
     return true;
