@@ -9,11 +9,13 @@
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Dates.h"
 #include "platform/runtime/Error.h"
+#include "platform/toolkit/Focus.h"
 #include "platform/toolkit/Fonts.h"
 #include "platform/toolkit/Twips.h"
 #include "templates/Categorie.h"
 
 #include <array>
+#include <initializer_list>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -160,11 +162,8 @@ void SchedaIntestazione::collega() {
     connect(&apriGGAllen, &QPushButton::clicked, this, &SchedaIntestazione::apriChiudiGiorni);
 
     // `al` and `FreqAllen` leave the list of days open.
-    connect(&categoria, &toolkit::Combo::gotFocus, this, &SchedaIntestazione::nascondiTutto);
-    connect(&Istruttore, &toolkit::TextBox::gotFocus, this, &SchedaIntestazione::nascondiTutto);
-    connect(&Obiettivo, &toolkit::TextBox::gotFocus, this, &SchedaIntestazione::nascondiTutto);
-    connect(&note, &toolkit::TextArea::gotFocus, this, &SchedaIntestazione::nascondiTutto);
-    connect(&dal, &toolkit::DatePicker::gotFocus, this, &SchedaIntestazione::nascondiTutto);
+    for (QWidget* campo : std::initializer_list<QWidget*>{&categoria, &Istruttore, &Obiettivo, &note, &dal})
+        toolkit::onFocus(*campo, [this] { nascondiTutto(); });
 }
 
 void SchedaIntestazione::controlla() {

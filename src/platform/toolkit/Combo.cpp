@@ -2,10 +2,8 @@
 
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/ApostropheGuard.h"
-#include "platform/toolkit/FocusReasons.h"
 
 #include <QAbstractItemView>
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -124,18 +122,6 @@ void Combo::keyPressEvent(QKeyEvent* event) {
 
 void Combo::wheelEvent(QWheelEvent* event) {
     event->ignore(); // a turn of the wheel over the page is no choice
-}
-
-void Combo::focusInEvent(QFocusEvent* event) {
-    QComboBox::focusInEvent(event);
-    if (betweenControls(event->reason()))
-        Q_EMIT gotFocus();
-}
-
-void Combo::focusOutEvent(QFocusEvent* event) {
-    QComboBox::focusOutEvent(event);
-    if (betweenControls(event->reason()))
-        Q_EMIT lostFocus();
 }
 
 } // namespace toolkit

@@ -43,15 +43,10 @@ public:
 Q_SIGNALS:
     void clicked();
     void changed();
-    /// The focus came from another control (not back from a popup, a box or another window).
-    void gotFocus();
-    void lostFocus();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void showItem(int index);

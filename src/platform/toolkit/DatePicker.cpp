@@ -1,17 +1,16 @@
 #include "platform/toolkit/DatePicker.h"
 
+#include "platform/runtime/Dates.h"
 #include "platform/runtime/Error.h"
-#include "platform/toolkit/FocusReasons.h"
 
 #include <QCalendarWidget>
-#include <QFocusEvent>
 #include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
 namespace toolkit {
 
-DatePicker::DatePicker(const QString& name, QWidget* parent) : QDateEdit(QDate::currentDate(), parent) {
+DatePicker::DatePicker(const QString& name, QWidget* parent) : QDateEdit(runtime::today(), parent) {
     setObjectName(name);
     setLocale(QLocale(QLocale::Italian, QLocale::Italy));
     setDateRange(QDate(1753, 1, 1), QDate(9999, 12, 31));
@@ -31,18 +30,6 @@ void DatePicker::setValue(QDate date) {
 
 void DatePicker::wheelEvent(QWheelEvent* event) {
     event->ignore();
-}
-
-void DatePicker::focusInEvent(QFocusEvent* event) {
-    QDateEdit::focusInEvent(event);
-    if (betweenControls(event->reason()))
-        Q_EMIT gotFocus();
-}
-
-void DatePicker::focusOutEvent(QFocusEvent* event) {
-    QDateEdit::focusOutEvent(event);
-    if (betweenControls(event->reason()))
-        Q_EMIT lostFocus();
 }
 
 } // namespace toolkit

@@ -17,14 +17,9 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The focus came from another control (not back from a popup, a box or another window).
-    void gotFocus();
-    void lostFocus();
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 };
 
 } // namespace toolkit

@@ -1,9 +1,7 @@
 #include "platform/toolkit/TextArea.h"
 
 #include "platform/toolkit/ApostropheGuard.h"
-#include "platform/toolkit/FocusReasons.h"
 
-#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -74,18 +72,6 @@ void TextArea::insertFromMimeData(const QMimeData* source) {
         const QString text = fitting(source->text());
         insertPlainText(guarded_ ? ApostropheGuard::guarded(text) : text);
     }
-}
-
-void TextArea::focusInEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusInEvent(event);
-    if (betweenControls(event->reason()))
-        Q_EMIT gotFocus();
-}
-
-void TextArea::focusOutEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusOutEvent(event);
-    if (betweenControls(event->reason()))
-        Q_EMIT lostFocus();
 }
 
 } // namespace toolkit

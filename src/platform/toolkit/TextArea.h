@@ -21,16 +21,11 @@ public:
 
 Q_SIGNALS:
     void changed();
-    /// The focus came from another control (not back from a popup, a box or another window).
-    void gotFocus();
-    void lostFocus();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void report();

@@ -1,7 +1,7 @@
 #include "platform/toolkit/TextBox.h"
 
 #include "platform/toolkit/ApostropheGuard.h"
-#include "platform/toolkit/FocusReasons.h"
+#include "platform/toolkit/Focus.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -70,12 +70,6 @@ void TextBox::mouseMoveEvent(QMouseEvent* event) {
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     focusPress_ = false;
-}
-
-void TextBox::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    if (betweenControls(event->reason()))
-        Q_EMIT lostFocus();
 }
 
 } // namespace toolkit

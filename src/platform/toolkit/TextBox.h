@@ -31,7 +31,6 @@ Q_SIGNALS:
     /// The focus came from another control; behind the mouse press that brought it, if one did (not back from
     /// a popup, a box or another window).
     void gotFocus();
-    void lostFocus();
     /// Enter was pressed.
     void enterPressed();
 
@@ -41,7 +40,6 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     ApostropheGuard* guard_ = nullptr;

@@ -1,6 +1,7 @@
-#include "platform/toolkit/Toolkit.h"
+#include "platform/toolkit/Focus.h"
 #include "support/Errors.h"
 #include "support/Suite.h"
+#include "support/Toolkit.h"
 #include "support/WindowChecks.h"
 #include "support/WindowPage.h"
 
@@ -276,7 +277,7 @@ private:
         durata->addItems({u"30s"_s, u"45s"_s});
         validation->add(durata, [durata] { return durata->index() >= 0; });
         const auto acts = [this](const QString& what) { return [this, what] { acted_ += what; }; };
-        connect(durata, &Combo::gotFocus, this, acts(u"focus"_s));
+        onFocus(*durata, acts(u"focus"_s));
         connect(add<Button>(u"row"_s, u"X"_s), &QPushButton::clicked, this, acts(u"row"_s));
         connect(add<Button>(u"access"_s, u"&Info"_s), &QPushButton::clicked, this, acts(u"access"_s));
         add<TextArea>(u"note"_s);

@@ -1,8 +1,8 @@
 #include "platform/toolkit/Application.h"
 #include "platform/toolkit/DialogOwner.h"
 #include "platform/toolkit/ParentForm.h"
-#include "platform/toolkit/Toolkit.h"
 #include "support/Suite.h"
+#include "support/Toolkit.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

@@ -1,6 +1,6 @@
 #pragma once
 
-// All controls of a form at once, for the windows' sources.
+// All controls at once.
 
 #include "platform/toolkit/Button.h"
 #include "platform/toolkit/CheckListBox.h"
