@@ -85,10 +85,14 @@ void mdiScheda::caricaImmagini() {
     }
 }
 
-void mdiScheda::mostra() {
+void mdiScheda::prepara() {
     ToolbarSchede.setVisible(true);
     if (idUtenteSelezionato != 0)
         utente->carica(idUtenteSelezionato);
+}
+
+void mdiScheda::mostra() {
+    prepara();
     schedaAperta.reset();
     ToolbarSchede.setButtonEnabled(pulsanteSalva, true);
     creaScheda();
@@ -99,9 +103,7 @@ void mdiScheda::mostra() {
 }
 
 void mdiScheda::riapri(const std::shared_ptr<SchedaApribile>& scheda) {
-    ToolbarSchede.setVisible(true);
-    if (idUtenteSelezionato != 0)
-        utente->carica(idUtenteSelezionato);
+    prepara();
     schedaAperta = scheda;
     ToolbarSchede.setButtonEnabled(pulsanteSalva, !schedaAperta->preimpostata);
     try {

@@ -43,6 +43,7 @@ protected:
 
 private:
     void caricaImmagini();
+    void prepara();
     void creaScheda();
     void conta();
     void presenta();
