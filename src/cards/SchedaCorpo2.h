@@ -12,7 +12,6 @@
 #include "platform/toolkit/Validation.h"
 #include "printing/PictureCache.h"
 
-#include <array>
 #include <memory>
 
 class Esercizio;

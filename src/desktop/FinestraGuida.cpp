@@ -10,8 +10,6 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QHeaderView>
-#include <QScopedValueRollback>
 #include <QShortcut>
 #include <QToolButton>
 #include <QWindow>

@@ -1,6 +1,5 @@
 #include "desktop/RandR.h"
 
-#include <cstdlib>
 #include <utility>
 #include <vector>
 #include <xcb/randr.h>

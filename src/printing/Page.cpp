@@ -7,8 +7,6 @@
 #include "printing/SuperficieScheda.h"
 #include "printing/cTime.h"
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 
 namespace {

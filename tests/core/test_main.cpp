@@ -13,6 +13,7 @@
 #include "support/RecordsTest.h"
 
 #include <QFile>
+#include <QSettings>
 
 using namespace Qt::StringLiterals;
 
@@ -52,7 +53,8 @@ private Q_SLOTS:
         QVERIFY(mdiScheda::comune().isLoaded() && !mdiScheda::comune().isVisible() &&
                 !variabiliGlobali::inChiusura);
         QCOMPARE(guida::file, program().folder() + u"\\HELP\\HELP.hlp"_s);
-        QCOMPARE(host::readSetting(u"General"_s, u"Path"_s), program().folder());
+        QCOMPARE(QSettings(host::settingsFile(), QSettings::IniFormat).value(u"Path"_s).toString(),
+                 program().folder());
         QVERIFY(QFile::exists(program().settingsFolder() + u"/Quiver-Deck.ini"_s));
         QCOMPARE(
             log().join(u'|'),

@@ -8,6 +8,7 @@
 #include "support/Files.h"
 #include "support/RecordsTest.h"
 
+#include <QSettings>
 #include <QSignalSpy>
 #include <QThread>
 
@@ -45,8 +46,9 @@ private Q_SLOTS:
         host::saveSetting(u"General"_s, u"Path"_s, u"/è qui\\con; strani = segni"_s);
         host::saveSetting(u"Altro"_s, u"Path"_s, u"2"_s);
         host::saveSetting(u"General"_s, u"Path"_s, u"/nuovo, \"qui\""_s);
-        QCOMPARE(host::readSetting(u"General"_s, u"Path"_s), u"/nuovo, \"qui\""_s);
-        QCOMPARE(host::readSetting(u"Altro"_s, u"Path"_s), u"2"_s);
+        const QSettings written(host::settingsFile(), QSettings::IniFormat);
+        QCOMPARE(written.value(u"Path"_s).toString(), u"/nuovo, \"qui\""_s); // "General" is the file's top
+        QCOMPARE(written.value(u"Altro/Path"_s).toString(), u"2"_s);
         QVERIFY(QDir().mkpath(program().settingsFolder() + u"/x/Quiver-Deck.ini"_s)); // a folder in its place
         host::setSettingsFolder(program().settingsFolder() + u"/x"_s);
         QCOMPARE(errorOf([] { host::saveSetting(u"General"_s, u"Path"_s, u"x"_s); }), 75);

@@ -36,15 +36,15 @@ private Q_SLOTS:
         run(u"INSERT INTO t VALUES (null,null,null,null,null,null)"_s);
         store::Recordset rows = query(u"SELECT * FROM v"_s);
         QCOMPARE(rows.RecordCount(), 3);
-        QStringList texts{rows.Fields(3).Name()};
+        QStringList texts;
         for (const auto& name : {u"T.D"_s, u"B"_s, u"y"_s, u"s"_s, u"n"_s, u"r"_s})
             texts += rows(name).toText();
-        QCOMPARE(texts.join(u' '), u"s 31/12/2005 True 5 001010100 7 1.5"_s);
+        QCOMPARE(texts.join(u' '), u"31/12/2005 True 5 001010100 7 1.5"_s);
         rows.MoveNext();
         QCOMPARE(rows(u"t.d").toText() + rows(u"b").toText(), u"01/02/2006 10:30:00False"_s);
         QCOMPARE(errorOf([&] { return rows(u"y"); }), 6); // the store takes it, reading refuses it
         rows.MoveNext();
-        for (int i = 0; i < rows.FieldCount(); ++i)
+        for (int i = 0; i < 6; ++i)
             QVERIFY(rows.Fields(i).Value().isNull());
         QCOMPARE(errorOf([&] { return rows(u"d"); }), store::NoSuchField);
         rows.MoveNext();

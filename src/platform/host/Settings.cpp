@@ -44,9 +44,4 @@ void saveSetting(const QString& section, const QString& key, const QString& valu
                        u"Impossibile scrivere le impostazioni: "_s + settings.fileName());
 }
 
-QString readSetting(const QString& section, const QString& key) {
-    const QSettings settings(settingsFile(), QSettings::IniFormat);
-    return settings.value(keyPath(section, key)).toString();
-}
-
 } // namespace host

@@ -8,8 +8,6 @@ namespace host {
 /// configuration folder. The section "General" holds the top-level keys. Raises error 75 if the file
 /// cannot be written.
 void saveSetting(const QString& section, const QString& key, const QString& value);
-/// Empty if there is no such setting.
-QString readSetting(const QString& section, const QString& key);
 
 QString settingsFile();
 /// Puts the file into another folder; an empty text brings the user's own back.

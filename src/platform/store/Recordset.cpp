@@ -80,15 +80,9 @@ Field Recordset::Fields(QStringView name) const {
 }
 
 Field Recordset::Fields(int number) const {
-    if (number < 0 || number >= FieldCount())
+    if (number < 0 || static_cast<std::size_t>(number) >= columns_.size())
         runtime::raise(NoSuchField, u"Colonna non trovata: "_s + QString::number(number));
     return at(static_cast<std::size_t>(number));
-}
-
-void Recordset::Close() {
-    columns_.clear();
-    cells_.clear();
-    rows_ = row_ = 0;
 }
 
 } // namespace store

@@ -24,7 +24,6 @@ using Cell = std::variant<std::monostate, qint64, double, QString>;
 class Field {
 public:
     Field(const Column& column, const Cell& cell) : column_(column), cell_(cell) {}
-    QString Name() const { return column_.name; }
     /// The value in the column's type. An 8-bit column that holds more raises error 6.
     runtime::Variant Value() const;
 
@@ -43,7 +42,6 @@ public:
     int RecordCount() const { return rows_; }
     bool EOF_() const { return row_ >= rows_; }
     void MoveNext();
-    int FieldCount() const { return static_cast<int>(columns_.size()); }
 
     /// By name, without regard to case; a view's qualified columns go by their whole name
     /// ("categorie.nome"). An unknown name raises store::NoSuchField.
@@ -51,9 +49,6 @@ public:
     /// By number, from 0.
     Field Fields(int number) const;
     runtime::Variant operator()(QStringView name) const { return Fields(name).Value(); }
-
-    /// Drops the rows.
-    void Close();
 
 private:
     Field at(std::size_t column) const;

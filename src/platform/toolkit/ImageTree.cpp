@@ -5,7 +5,6 @@
 #include "platform/toolkit/ImageTreeDelegate.h"
 
 #include <QDrag>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>

@@ -29,12 +29,7 @@ ReportList::ReportList(const QString& name, QWidget* parent)
     header()->setStretchLastSection(false);
     header()->setHighlightSections(false);
     header()->setMinimumSectionSize(0);
-    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        setSortKey(column);
-        Q_EMIT columnClick(column);
-    });
-    connect(this, &QTreeView::clicked, this,
-            [this](const QModelIndex& index) { Q_EMIT itemClick(index.row()); });
+    connect(header(), &QHeaderView::sectionClicked, this, &ReportList::setSortKey);
     connect(this, &QTreeView::doubleClicked, this, &ReportList::doubleClick);
 }
 

@@ -53,12 +53,8 @@ public:
 
     /// Sorts by the column now and through every refill; -1 keeps the order of filling.
     void setSortKey(int column);
-    int sortKey() const { return sortKey_; }
 
 Q_SIGNALS:
-    /// A header was clicked (the list has sorted already).
-    void columnClick(int column);
-    void itemClick(int line);
     void doubleClick();
 
 protected:
