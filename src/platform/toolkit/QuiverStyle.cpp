@@ -99,7 +99,6 @@ int QuiverStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     case PM_TabBarTabVSpace:
         return 6;
     case PM_TabBarTabOverlap:
-        return 1;
     case PM_TabBarBaseOverlap:
         return 1;
     case PM_ButtonMargin:
@@ -112,7 +111,6 @@ int QuiverStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
     case PM_ExclusiveIndicatorHeight:
         return 13;
     case PM_HeaderMargin:
-        return 3;
     case PM_ToolTipLabelFrameWidth:
         return 3;
     default:
@@ -124,7 +122,6 @@ int QuiverStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
                            QStyleHintReturn* returnData) const {
     switch (hint) {
     case SH_ComboBox_Popup:
-        return 0;
     case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     case SH_ToolTip_WakeUpDelay:
