@@ -15,7 +15,6 @@
 using namespace Qt::StringLiterals;
 using faults::read;
 using faults::write;
-using store::Backups;
 
 namespace {
 
@@ -28,7 +27,7 @@ const QString cannotWrite = u"Impossibile scrivere "_s;
 const QString noSideFile = u"La copia di sicurezza della scheda che era aperta è danneggiata"_s;
 const QByteArray picture = "\xff\xd8\xff\xe0 JFIF" + QByteArray(9000, 'x');
 
-Backups backupsOf(const RealProgram& program) {
+store::Backups backupsOf(const RealProgram& program) {
     return {program.store(), program.file(u"backup"_s)};
 }
 
@@ -136,8 +135,7 @@ private Q_SLOTS:
                 QDir(p.file(u"backup"_s)).removeRecursively();
                 tangled(0)(p);
             });
-        row("store held", {u"L’archivio è occupato da un altro programma"_s}, End::Splash, {},
-            [](const RealProgram& p) { hold(p); });
+        row("store held", {u"L’archivio è occupato da un altro programma"_s}, End::Splash, {}, hold);
         row("newer store, installed",
             {u"L’archivio «splash.ps» è stato creato da una versione più recente"_s}, End::Refused,
             data + u"images/Q/001.JPG"_s, [data](RealProgram& p) {
@@ -166,7 +164,7 @@ private Q_SLOTS:
         play([&] {
             RealProgram program;
             const QStringList rows = faults::allRows(program);
-            QCOMPARE(backupsOf(program).run(), Backups::Outcome::Copied);
+            QCOMPARE(backupsOf(program).run(), store::Backups::Outcome::Copied);
             fault.come(program);
             const bool existed = QFileInfo::exists(program.file(fault.file));
             const QByteArray bytes = read(program.file(fault.file));
@@ -178,7 +176,9 @@ private Q_SLOTS:
             QString told;
             for (const QString& box : boxes)
                 told = program.answer(box, box == offer ? u"Sì"_s : u"OK"_s);
-            QVERIFY(fault.end == End::Refused || !program.shows(u"messageBox"_s)); // and no other box
+            const auto anotherBox = [&program] { return program.shows(u"messageBox"_s); };
+            // Looked for twice: the first look may still find the last box as it closes.
+            QVERIFY(fault.end == End::Refused || (!anotherBox() && !anotherBox()));
             if (fault.end == End::Splash)
                 program.write(u"frmSplash"_s, u"x"_s);
             if (fault.end == End::Works)
