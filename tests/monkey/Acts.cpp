@@ -33,75 +33,31 @@ namespace monkey {
 
 namespace {
 
-const QString texts[] = {
-    u"Rossi"_s,
-    u"L'Aquila dell'Est"_s,
-    u"dice \"piano\""_s,
-    u"perché è così – già"_s,
-    u"💪 e 汉字"_s,
-    u"0"_s,
-    u"3"_s,
-    u"12"_s,
-    u"45 sec"_s,
-    u"59"_s,
-    u"60"_s,
-    u"99"_s,
-    u"100"_s,
-    u"255"_s,
-    u"256"_s,
-    u"-1"_s,
-    u"999999999999"_s,
-    u"1e9"_s,
-    u"3,5"_s,
-    u"DELETE * FROM utenti #1/1/2005#"_s,
-    u"31/02/2026"_s,
-    u"'); DROP TABLE schede; --"_s,
-    u"%s%n\\0"_s,
-    u"   "_s,
-    u"&Apri"_s,
-    u"<b>x</b>"_s,
-    u"Una nota molto lunga, che va a capo più volte. "_s.repeated(40),
-};
+const QStringList texts =
+    u"Rossi|L'Aquila dell'Est|dice \"piano\"|perché è così – già|💪 e 汉字|0|3|12|45 sec|59|60|100|255|256|-1|"
+    "999999999999|1e9|3,5|DELETE * FROM utenti #1/1/2005#|31/02/2026|'); DROP TABLE schede; --|%s%n\\0|   |"
+    "&Apri|<b>x</b>"_s.split(u'|')
+    << u"Una nota molto lunga, che va a capo più volte. "_s.repeated(40);
 
-const std::pair<Qt::Key, Qt::KeyboardModifiers> keys[] = {
-    {Qt::Key_Tab, {}},
-    {Qt::Key_Tab, {}},
-    {Qt::Key_Backtab, Qt::ShiftModifier},
-    {Qt::Key_Return, {}},
-    {Qt::Key_Space, {}},
-    {Qt::Key_Escape, {}},
-    {Qt::Key_Delete, {}},
-    {Qt::Key_Backspace, {}},
-    {Qt::Key_F1, {}},
-    {Qt::Key_F2, {}},
-    {Qt::Key_F6, {}},
-    {Qt::Key_F10, {}},
-    {Qt::Key_Up, {}},
-    {Qt::Key_Down, {}},
-    {Qt::Key_Left, {}},
-    {Qt::Key_Right, {}},
-    {Qt::Key_Home, {}},
-    {Qt::Key_End, {}},
-    {Qt::Key_PageUp, {}},
-    {Qt::Key_PageDown, {}},
-    {Qt::Key_A, Qt::ControlModifier},
-    {Qt::Key_X, Qt::ControlModifier},
-    {Qt::Key_C, Qt::ControlModifier},
-    {Qt::Key_V, Qt::ControlModifier},
-    {Qt::Key_Z, Qt::ControlModifier},
-    {Qt::Key_Y, Qt::ControlModifier},
-    {Qt::Key_S, Qt::ControlModifier},
-    {Qt::Key_P, Qt::ControlModifier},
-    {Qt::Key_F12, Qt::ControlModifier | Qt::ShiftModifier},
-    {Qt::Key_F4, {}},
-    {Qt::Key_Menu, {}},
-};
+const QKeyCombination keys[] = {Qt::Key_Tab,          Qt::Key_Tab,          Qt::SHIFT | Qt::Key_Backtab,
+                                Qt::Key_Return,       Qt::Key_Space,        Qt::Key_Escape,
+                                Qt::Key_Delete,       Qt::Key_Backspace,    Qt::Key_F1,
+                                Qt::Key_F2,           Qt::Key_F4,           Qt::Key_F6,
+                                Qt::Key_F10,          Qt::Key_Menu,         Qt::Key_Up,
+                                Qt::Key_Down,         Qt::Key_Left,         Qt::Key_Right,
+                                Qt::Key_Home,         Qt::Key_End,          Qt::Key_PageUp,
+                                Qt::Key_PageDown,     Qt::CTRL | Qt::Key_A, Qt::CTRL | Qt::Key_X,
+                                Qt::CTRL | Qt::Key_C, Qt::CTRL | Qt::Key_V, Qt::CTRL | Qt::Key_Z,
+                                Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::Key_S, Qt::CTRL | Qt::Key_P};
+/// The technician’s button.
+constexpr QKeyCombination technician(Qt::CTRL | Qt::SHIFT, Qt::Key_F12);
 
 /// How readily a control is taken; what ends a task less so than what goes on with it.
 int weight(const QWidget& control) {
     static const std::pair<QRegularExpression, int> byName[] = {
         {QRegularExpression(u"^Principale/esci"_s), 1},
-        {QRegularExpression(u"^Principale/(nuova|apri|nuovaDaModello)$"_s), 25},
+        {QRegularExpression(u"^Principale/(nuova|apri|nuovaDaModello|MenuPrincipale)$"_s), 25},
+        {QRegularExpression(u"/(modifica|cmdTreeViewImage|cmdDragAndDrop|cmdSchedaCorpo2)$"_s), 25},
         {QRegularExpression(u"^mdiScheda/(fine|stampa|SalvaSuModello)$"_s), 4},
         {QRegularExpression(u"/(EliminaEsercizio_|elimina$)"_s), 3},
         {QRegularExpression(u"/(LW|twImage|twFolder|BodyMap1|seleziona|cmdOk|CmdSave)$"_s), 12},
@@ -150,7 +106,31 @@ QString point(const QPoint& where) {
     return u"%1,%2"_s.arg(where.x()).arg(where.y());
 }
 
+/// As the keyboard does: plain letters by keys, others as an input method commits them.
+void type(const QString& text) {
+    for (const QChar letter : text) {
+        const QPointer<QWidget> focus = QApplication::focusWidget();
+        if (!focus || focus->window()->windowHandle() == nullptr)
+            return;
+        if (letter.unicode() < 128) {
+            pressKey(focus->window()->windowHandle(), static_cast<Qt::Key>(letter.toUpper().unicode()),
+                     letter);
+        } else {
+            QInputMethodEvent event;
+            event.setCommitString(letter);
+            QApplication::sendEvent(focus, &event);
+        }
+    }
+}
+
 } // namespace
+
+void pressKey(QWindow* window, QKeyCombination keys, const QString& text) {
+    const QPointer<QWindow> target(window);
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
+        if (target)
+            qt_handleKeyEvent(target, type, keys.key(), keys.keyboardModifiers(), text);
+}
 
 Act Hands::choose() {
     if (QWidget* popup = QApplication::activePopupWidget())
@@ -177,7 +157,7 @@ Act Hands::onPopup(QWidget& popup) {
     const auto last = dice_.chance(75) ? Qt::Key_Return : Qt::Key_Escape;
     const auto way = dice_.chance(85) ? Qt::Key_Down : dice_.chance(50) ? Qt::Key_Right : Qt::Key_Up;
     return {windowOf(popup), u"popup: %1 steps of key %2, then key %3"_s.arg(steps).arg(way).arg(last),
-            [this, target = QPointer<QWidget>(&popup), steps, way, last] {
+            [target = QPointer<QWidget>(&popup), steps, way, last] {
                 for (int step = 0; step < steps && target; ++step)
                     pressKey(target->windowHandle(), way);
                 if (target)
@@ -187,19 +167,16 @@ Act Hands::onPopup(QWidget& popup) {
 
 Act Hands::onWindow(QWidget& window) {
     const int kind = dice_.roll(100);
-    if (kind < 10) {
-        const auto& [code, modifiers] = dice_.pick(keys);
-        return key(window, code, modifiers);
-    }
+    if (kind < 10)
+        return key(window, dice_.pick(keys));
     if (kind < 13)
         return wheel(window);
     if (kind < 15)
         return resize(window);
     if (kind < 16)
         return close(window);
-    if (kind < 28 &&
-        window.objectName() == u"Principale") // the technician’s button, which is rarely in reach
-        return key(window, Qt::Key_F12, Qt::ControlModifier | Qt::ShiftModifier);
+    if (kind < 28 && window.objectName() == u"Principale") // rarely in reach
+        return key(window, technician);
     std::vector<QWidget*> controls;
     std::vector<int> upTo;
     int sum = 0;
@@ -267,11 +244,11 @@ Act Hands::typeInto(QWidget& field) {
     const auto click = act.run;
     act.what = u"%1 %2%3 '%4'"_s.arg(paste ? u"paste into"_s : u"type into"_s, nameOf(field),
                                      anew ? u" anew"_s : QString(), text.left(40));
-    act.run = [this, click, text, anew, paste, target = QPointer<QWidget>(field.window())] {
+    act.run = [click, text, anew, paste, target = QPointer<QWidget>(field.window())] {
         click();
         const auto onFocus = [&](Qt::Key key) {
             if (target && target->windowHandle() != nullptr)
-                pressKey(target->windowHandle(), key, Qt::ControlModifier);
+                pressKey(target->windowHandle(), Qt::CTRL | key);
         };
         if (anew)
             onFocus(Qt::Key_A);
@@ -285,31 +262,13 @@ Act Hands::typeInto(QWidget& field) {
     return act;
 }
 
-/// As the keyboard does: letters of the plane by keys, others as an input method commits them.
-void Hands::type(const QString& text) {
-    for (const QChar letter : text) {
-        const QPointer<QWidget> focus = QApplication::focusWidget();
-        if (!focus || focus->window()->windowHandle() == nullptr)
-            return;
-        if (letter.unicode() < 128) {
-            pressKey(focus->window()->windowHandle(), static_cast<Qt::Key>(letter.toUpper().unicode()), {},
-                     letter);
-        } else {
-            QInputMethodEvent event;
-            event.setCommitString(letter);
-            QApplication::sendEvent(focus, &event);
-        }
-    }
-}
-
-Act Hands::key(QWidget& window, Qt::Key code, Qt::KeyboardModifiers modifiers) {
+Act Hands::key(QWidget& window, QKeyCombination keys) {
     const int times = dice_.chance(80) ? 1 : 2 + dice_.roll(4);
-    return {
-        windowOf(window), u"key %1+%2, %3 times"_s.arg(modifiers.toInt(), 0, 16).arg(code, 0, 16).arg(times),
-        [this, target = QPointer<QWidget>(&window), code, modifiers, times] {
-            for (int i = 0; i < times && target && target->windowHandle() != nullptr; ++i)
-                pressKey(target->windowHandle(), code, modifiers, code == Qt::Key_Space ? u" "_s : QString());
-        }};
+    return {windowOf(window), u"key %1, %2 times"_s.arg(keys.toCombined(), 0, 16).arg(times),
+            [target = QPointer<QWidget>(&window), keys, times] {
+                for (int i = 0; i < times && target && target->windowHandle() != nullptr; ++i)
+                    pressKey(target->windowHandle(), keys, keys.key() == Qt::Key_Space ? u" "_s : QString());
+            }};
 }
 
 Act Hands::wheel(QWidget& window) {
@@ -325,17 +284,13 @@ Act Hands::wheel(QWidget& window) {
 
 Act Hands::resize(QWidget& window) {
     const QSize size(200 + dice_.roll(1200), 150 + dice_.roll(900));
-    const int state = dice_.roll(4);
-    return {windowOf(window), u"resize to %1x%2, state %3"_s.arg(size.width()).arg(size.height()).arg(state),
-            [target = QPointer<QWidget>(&window), size, state] {
-                const bool fixed = target->minimumSize() == target->maximumSize();
-                if (fixed)
+    const bool maximize = dice_.chance(25);
+    return {windowOf(window), u"resize to %1x%2, %3"_s.arg(size.width()).arg(size.height()).arg(maximize),
+            [target = QPointer<QWidget>(&window), size, maximize] {
+                if (target->minimumSize() == target->maximumSize())
                     return; // a window manager offers nothing else
-                if (state == 0)
-                    target->setWindowState(Qt::WindowMaximized);
-                else if (state == 1)
-                    target->setWindowState(Qt::WindowNoState);
-                else
+                target->setWindowState(maximize ? Qt::WindowMaximized : Qt::WindowNoState);
+                if (!maximize)
                     target->resize(size.expandedTo(target->minimumSize()).boundedTo(target->maximumSize()));
             }};
 }
@@ -407,19 +362,11 @@ void Hands::mouse(QWidget& control, QEvent::Type type, const QPoint& where) {
         return;
     const QPointF place = control.mapTo(control.window(), where);
     const bool move = type == QEvent::MouseMove;
-    held_ = type == QEvent::MouseButtonPress     ? Qt::LeftButton
-            : type == QEvent::MouseButtonRelease ? Qt::NoButton
-                                                 : held_;
+    if (!move)
+        held_ = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
     timestamp_ += 10;
     qt_handleMouseEvent(window, place, window->mapToGlobal(place.toPoint()), held_,
                         move ? Qt::NoButton : Qt::LeftButton, type, Qt::NoModifier, timestamp_);
-}
-
-void Hands::pressKey(QWindow* window, Qt::Key key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    const QPointer<QWindow> target(window);
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
-        if (target)
-            qt_handleKeyEvent(target, type, key, modifiers, text);
 }
 
 } // namespace monkey

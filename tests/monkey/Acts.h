@@ -37,6 +37,8 @@ struct Act {
     std::function<void()> run;
 };
 
+void pressKey(QWindow* window, QKeyCombination keys, const QString& text = {});
+
 /// Chooses acts on the windows that take input. Nothing is done before `Act::run`.
 class Hands {
 public:
@@ -47,8 +49,6 @@ public:
     /// Drops what hangs on the pointer, mostly on a picture of an exercise.
     Act drop();
     bool dragging() const { return dragging_; }
-    void pressKey(QWindow* window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                  const QString& text = {});
 
 private:
     Act onPopup(QWidget& popup);
@@ -56,7 +56,7 @@ private:
     Act onControl(QWidget& control);
     Act onList(QAbstractItemView& list);
     Act typeInto(QWidget& field);
-    Act key(QWidget& window, Qt::Key code, Qt::KeyboardModifiers modifiers);
+    Act key(QWidget& window, QKeyCombination keys);
     Act wheel(QWidget& window);
     Act resize(QWidget& window);
     Act close(QWidget& window);
@@ -64,7 +64,6 @@ private:
     Act dragFrom(QWidget& control, const QPoint& from, const QPoint& to);
     QPoint somewhereIn(const QWidget& control);
     void mouse(QWidget& control, QEvent::Type type, const QPoint& where);
-    void type(const QString& text);
 
     Dice& dice_;
     bool dragging_ = false;

@@ -151,7 +151,7 @@ bool Monkey::answerStart() {
         tell(u"asked"_s, yes ? u"yes"_s : u"no"_s);
         start_ = yes ? Start::Taken : Start::Declined;
         QFile::remove(orders_.before());
-        hands_.pressKey(box->windowHandle(), yes ? Qt::Key_Return : Qt::Key_Escape);
+        pressKey(box->windowHandle(), yes ? Qt::Key_Return : Qt::Key_Escape);
         return false;
     }
     if (start_ == Start::Taken) {
@@ -190,7 +190,7 @@ bool Monkey::endIn(QMessageBox& box) {
     if (start_ == Start::Taken)
         tell(u"wrong"_s, u"the restored card ends the program again"_s);
     remember();
-    hands_.pressKey(box.windowHandle(), Qt::Key_Return);
+    pressKey(box.windowHandle(), Qt::Key_Return);
     return true;
 }
 

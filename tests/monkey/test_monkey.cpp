@@ -1,4 +1,4 @@
-#include "support/ProgrammaConFigure.h"
+#include "support/Pictures.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -32,12 +32,14 @@ bool isLong() {
 class Gym {
 public:
     Gym() {
-        const ScratchProgram& p = gym_.program;
+        const ScratchProgram& p = program_;
+        p.sql(u"INSERT INTO muscoli VALUES ('PET','Pettorali','Grande pettorale')"_s);
+        givePictures(p);
         for (int figure = 5; figure <= 12; ++figure)
-            gym_.figura(figure, figure, figure % 2 == 0 ? u"QUA"_s : u"PET"_s,
-                        u"Q/%1.JPG"_s.arg(figure, 3, 10, QChar(u'0')));
+            addFigure(p, figure, figure, figure % 2 == 0 ? u"QUA"_s : u"PET"_s,
+                      u"Q/%1.JPG"_s.arg(figure, 3, 10, QChar(u'0')));
         for (int n = 0; n < 5; ++n)
-            gym_.immagine(u"avvertenze/posa%1.JPG"_s.arg(n), Qt::white);
+            givePicture(p, u"avvertenze/posa%1.JPG"_s.arg(n), Qt::white);
         write(u"rotta.jpg"_s, QByteArray("\xff\xd8\xff\xe0 no picture"));
         QImage(3000, 900, QImage::Format_RGB32).save(p.folder() + u"/logo grande.bmp"_s);
         QDir().mkpath(p.folder() + u"/HELP"_s);
@@ -47,40 +49,28 @@ public:
         write(u"HELP/manuale"_s, "#!/bin/sh\nexit 0\n");
         QFile::setPermissions(p.folder() + u"/HELP/manuale"_s,
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        for (int athlete = 1; athlete <= 5; ++athlete) {
-            p.sql(u"INSERT INTO utenti VALUES (%1,'Nome%1','Cognome%1','1980-05-0%1','F','nota')"_s.arg(
-                athlete));
-            for (int card = 1; card < athlete; ++card)
-                p.sql(
-                    u"INSERT INTO schede (id_utente,Istruttore,PeriodoDal,PeriodoAl,id_cat,FreqAllen,GGAllen,"
-                    "Obiettivo,note) VALUES (%1,'Anna','2026-01-02','2026-01-23',%2,3,'001010100','Forza','bere')"_s
-                        .arg(athlete)
-                        .arg(1 + card % 3));
-        }
-        for (int category = 1; category <= 3; ++category) {
-            p.sql(u"INSERT INTO schedeModello VALUES (%1,%2,'Mio %2',0,'nota')"_s.arg(100 + category)
-                      .arg(category));
-            p.sql(u"INSERT INTO EserciziModello VALUES (%1,1,%1,2,'30 sec','30 Hz','Low',1,20,3,'Statico','',"
-                  "'0','prima')"_s.arg(100 + category));
-        }
-        for (int line = 1; line <= 40; ++line)
-            p.sql(u"INSERT INTO Esercizi "
-                  u"(NProg,ID_Scheda,ID_Fig,Durata,Frequenza,Ampiezza,RecuperoMin,RecuperoSec,"
-                  "Serie,Modalita,Peso,isLibero,Note) VALUES "
-                  "(%1,%2,%3,'45s','40Hz','H',1,20,3,'Combinata','5 kg',0,"
-                  "'riga %1')"_s.arg(line)
-                      .arg(1 + line % 7)
-                      .arg(1 + line % 12));
+        p.sql(uR"(
+            CREATE TEMP TABLE n AS WITH RECURSIVE n(i) AS (SELECT 1 UNION SELECT i+1 FROM n WHERE i<40)
+                SELECT i FROM n;
+            INSERT INTO utenti SELECT i,'Nome'||i,'Cognome'||i,'1980-05-0'||i,'F','nota' FROM n WHERE i<=5;
+            INSERT INTO schede (id_utente,Istruttore,PeriodoDal,PeriodoAl,id_cat,FreqAllen,GGAllen,Obiettivo,note)
+                SELECT 2+i%4,'Anna','2026-01-02','2026-01-23',1+i%3,3,'001010100','Forza','bere' FROM n WHERE i<=10;
+            INSERT INTO schedeModello SELECT 100+i,i,'Mio '||i,0,'nota' FROM n WHERE i<=3;
+            INSERT INTO EserciziModello
+                SELECT 100+i,1,100+i,2,'30 sec','30 Hz','Low',1,20,3,'Statico','','0','prima' FROM n WHERE i<=3;
+            INSERT INTO Esercizi (NProg,ID_Scheda,ID_Fig,Durata,Frequenza,Ampiezza,RecuperoMin,RecuperoSec,Serie,
+                                  Modalita,Peso,isLibero,Note)
+                SELECT i,1+i%7,1+i%12,'45s','40Hz','H',1,20,3,'Combinata','5 kg',0,'riga '||i FROM n)"_s);
     }
-    const ScratchProgram& program() const { return gym_.program; }
+    const ScratchProgram& program() const { return program_; }
 
 private:
     void write(const QString& name, const QByteArray& content) const {
-        QFile file(gym_.program.folder() + u'/' + name);
+        QFile file(program_.folder() + u'/' + name);
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
-    ProgrammaConFigure gym_;
+    ScratchProgram program_;
 };
 
 /// What one start of the program came to.
