@@ -56,12 +56,14 @@ constexpr QKeyCombination technician(Qt::CTRL | Qt::SHIFT, Qt::Key_F12);
 int weight(const QWidget& control) {
     static const std::pair<QRegularExpression, int> byName[] = {
         {QRegularExpression(u"^Principale/esci"_s), 1},
-        {QRegularExpression(u"^Principale/(nuova|apri|nuovaDaModello|MenuPrincipale)$"_s), 25},
-        {QRegularExpression(u"/(modifica|cmdTreeViewImage|cmdDragAndDrop|cmdSchedaCorpo2)$"_s), 25},
-        {QRegularExpression(u"^mdiScheda/(fine|stampa|SalvaSuModello)$"_s), 4},
+        {QRegularExpression(u"^Principale/(nuova|apri|nuovaDaModello|MenuPrincipale|test)$"_s), 25},
+        {QRegularExpression(u"/(modifica|cmdConteggi|cmdTreeViewImage|cmdDragAndDrop|cmdSchedaCorpo2)$"_s),
+         25},
+        {QRegularExpression(u"^mdiScheda/(stampa|SalvaSuModello)$"_s), 4},
+        {QRegularExpression(u"^mdiScheda/fine$"_s), 12},
         {QRegularExpression(u"/(EliminaEsercizio_|elimina$)"_s), 3},
         {QRegularExpression(u"/(LW|twImage|twFolder|BodyMap1|seleziona|cmdOk|CmdSave)$"_s), 12},
-        {QRegularExpression(u"/(salva$|VS|MenuPrincipale|serie_|recupero|canvas|test$|cmdZoom)"_s), 8},
+        {QRegularExpression(u"/(salva$|VS|MenuPrincipale|serie_|recupero|canvas|cmdZoom)"_s), 8},
         {QRegularExpression(u"/(qt_|client$|Frame|Label|eti)"_s), 1},
     };
     const QString place = windowOf(control) + u'/' + control.objectName();

@@ -30,10 +30,13 @@ bool rowHolds(const QStringList& names, bool (*test)(const QString&)) {
     });
 }
 
-/// A number of a row that 8 bits do not hold.
+bool beyond8Bits(const QString& text) {
+    const double number = runtime::leadingNumber(text);
+    return number < 0 || number > 255;
+}
+
 bool rowBeyond8Bits() {
-    return rowHolds({u"recuperoMin"_s, u"recuperoSec"_s, u"serie"_s},
-                    [](const QString& text) { return runtime::leadingNumber(text) > 255; });
+    return rowHolds({u"recuperoMin"_s, u"recuperoSec"_s, u"serie"_s}, beyond8Bits);
 }
 
 /// The same in the page of one exercise, where minutes and seconds stand in one field.
@@ -41,8 +44,8 @@ bool recoveryBeyond8Bits() {
     if (!SchedaCorpo2::esiste())
         return false;
     const auto* field = SchedaCorpo2::comune().findChild<toolkit::TextBox*>(u"recupero"_s);
-    return field != nullptr && (runtime::leadingNumber(field->text().section(u':', 0, 0)) > 255 ||
-                                runtime::leadingNumber(field->text().section(u':', 1)) > 255);
+    return field != nullptr &&
+           (beyond8Bits(field->text().section(u':', 0, 0)) || beyond8Bits(field->text().section(u':', 1)));
 }
 
 /// The seconds are no number.

@@ -108,8 +108,12 @@ void Monkey::turn() {
         return;
     }
     const Act act = hands_.dragging() ? hands_.drop() : hands_.choose();
-    if (act.run)
+    if (act.run) {
+        idle_ = 0;
         perform(act);
+    } else if (++idle_ == patience) {
+        tell(u"wrong"_s, u"nothing takes the user's input"_s);
+    }
 }
 
 void Monkey::perform(const Act& act) {
@@ -147,7 +151,7 @@ bool Monkey::answerStart() {
             }
             return box != nullptr; // another box, or the screen's question, comes first
         }
-        const bool yes = dice_.chance(90);
+        const bool yes = dice_.chance(80);
         tell(u"asked"_s, yes ? u"yes"_s : u"no"_s);
         start_ = yes ? Start::Taken : Start::Declined;
         QFile::remove(orders_.before());

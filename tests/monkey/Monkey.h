@@ -75,6 +75,7 @@ private:
     int number_;
     bool ended_ = false; ///< the last act is done, and one turn more
     int waited_ = 0;
+    int idle_ = 0; ///< rounds in which no act was to be had
     bool settled_ = false;
     QSet<QString> forms_;
     QJsonObject before_; ///< what must come back; empty once it did, or was declined

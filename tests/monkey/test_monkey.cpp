@@ -220,6 +220,8 @@ private:
 
     static void judge(QProcess& program, const QString& folder, Run& run) {
         const QByteArray said = program.readAll();
+        const qsizetype sanitizer = said.indexOf("ERROR: ");
+        const qsizetype from = sanitizer < 0 ? std::max<qsizetype>(0, said.size() - 6000) : sanitizer;
         const bool normal = program.exitStatus() == QProcess::NormalExit;
         const int expected = run.end == u"fatal" ? 1 : 0;
         if (run.end.isEmpty() || !normal || program.exitCode() != expected || said.contains("Sanitizer") ||
@@ -227,7 +229,7 @@ private:
             run.wrong +=
                 u"end '%1', status %2%3:\n%4"_s.arg(run.end)
                     .arg(program.exitCode())
-                    .arg(normal ? QString() : u" by a signal"_s, QString::fromUtf8(said.right(6000)));
+                    .arg(normal ? QString() : u" by a signal"_s, QString::fromUtf8(said.mid(from, 6000)));
         if (run.end == u"end" && QFile::exists(folder + u"/splash.ps.aperta"_s))
             run.wrong += u"the program ended and left a side file"_s;
     }
