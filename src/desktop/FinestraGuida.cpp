@@ -89,8 +89,7 @@ void FinestraGuida::mostra(const QString& id) {
     guida.apri(id);
     guida.show();
     // A child of the modal window, if there is one, is not blocked by it.
-    const QWidget* modale = QApplication::activeModalWidget();
-    guida.windowHandle()->setTransientParent(modale != nullptr ? modale->windowHandle() : nullptr);
+    guida.stayAbove(QApplication::activeModalWidget());
     guida.raise();
     guida.activateWindow();
 }

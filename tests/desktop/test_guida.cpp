@@ -3,6 +3,7 @@
 #include "core/Principale.h"
 #include "desktop/FinestraGuida.h"
 #include "desktop/TastoAiuto.h"
+#include "desktop/frmAbout.h"
 #include "desktop/frmPersonalizza.h"
 #include "platform/host/ProgramDirectory.h"
 #include "support/WindowTest.h"
@@ -89,6 +90,14 @@ private Q_SLOTS:
             QCOMPARE(FinestraGuida::comune().windowHandle()->transientParent(), form.windowHandle());
             page().press(u"inizio"_s);
             QCOMPARE(at(), u"benvenuto 10"_s);
+            whenModal([](toolkit::Form& second) { // opened with the guide in front
+                WindowPage(second).key(u"cmdOK"_s, Qt::Key_F1);
+                const QWindow* guide = FinestraGuida::comune().windowHandle();
+                QCOMPARE(guide->transientParent(), second.windowHandle());
+                QVERIFY(second.windowHandle()->transientParent() != guide); // a ring would freeze the program
+                second.unload();
+            });
+            frmAbout::comune().showModal();
             form.unload();
         });
         frmPersonalizza::comune().showModal();

@@ -270,8 +270,17 @@ void Form::prepareWindow() {
         const Form* owner = active();
         winId();
         if (owner != nullptr && owner != this && windowHandle() != nullptr)
-            windowHandle()->setTransientParent(owner->windowHandle());
+            stayAbove(owner);
     }
+}
+
+void Form::stayAbove(const QWidget* other) {
+    QWindow* own = windowHandle();
+    QWindow* below = other == nullptr ? nullptr : other->windowHandle();
+    for (QWindow* window = below; window != nullptr; window = window->transientParent())
+        if (window->transientParent() == own)
+            window->setTransientParent(own->transientParent());
+    own->setTransientParent(below);
 }
 
 void Form::waitForWindow() {

@@ -89,6 +89,10 @@ public:
     /// Destroys every form; at the program's end.
     static void destroyAll();
 
+    /// Keeps this window in front of another form's; of none for nullptr. Where the other stands in front of
+    /// this one already, it changes place with it: the toolkit follows these windows without end in a ring.
+    void stayAbove(const QWidget* other);
+
     void setVisible(bool visible) override;
 
 protected:
