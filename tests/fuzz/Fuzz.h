@@ -17,6 +17,8 @@ inline void require(bool holds, const char* rule) {
 
 void dialect(const QByteArray& input);
 void numbers(const QByteArray& input);
+void dates(const QByteArray& input);
+void days(const QByteArray& input);
 void sidefile(const QByteArray& input);
 void pictures(const QByteArray& input);
 

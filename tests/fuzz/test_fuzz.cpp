@@ -27,7 +27,7 @@ private:
     const QByteArray& any(const QList<QByteArray>& list) { return list.at(random_.bounded(list.size())); }
     void mutate(QByteArray& input) {
         static const auto edges =
-            QByteArray("-1 256 29 1.5 0000 32767 32768 2147483647 2147483648 1e999").split(' ');
+            QByteArray("-1 256 29 1.5 0000 32767 32768 2147483647 2147483648 1e999 9999").split(' ');
         const qsizetype at = random_.bounded(input.size() + 1);
         const int way = random_.bounded(6);
         if (way == 0)
@@ -68,6 +68,8 @@ private Q_SLOTS:
         QTest::addColumn<int>("times");
         QTest::newRow("dialect") << Target(fuzz::dialect) << 4000;
         QTest::newRow("numbers") << Target(fuzz::numbers) << 10000;
+        QTest::newRow("dates") << Target(fuzz::dates) << 5000;
+        QTest::newRow("days") << Target(fuzz::days) << 5000;
         QTest::newRow("sidefile") << Target(fuzz::sidefile) << 3000;
         QTest::newRow("pictures") << Target(fuzz::pictures) << 300;
     }

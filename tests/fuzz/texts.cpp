@@ -1,8 +1,10 @@
+#include "cards/GGAllenHELPER.h"
 #include "fuzz/Fuzz.h"
 #include "platform/runtime/Conversions.h"
-#include "platform/runtime/Error.h"
+#include "platform/runtime/Dates.h"
 #include "platform/store/Dialect.h"
 #include "support/Errors.h"
+#include "support/FakeControls.h"
 
 #include <QRegularExpression>
 
@@ -39,6 +41,17 @@ template <class T> void narrowing(double value, T (*narrow)(double)) {
     fuzz::require(error == (fits ? 0 : runtime::Overflow), "a number fits or is an overflow");
     const double off = fits ? std::abs(whole - value) : 0;
     fuzz::require(off < 0.5 || (off == 0.5 && whole % 2 == 0), "rounding goes to the nearest, ties to even");
+}
+
+void thereAndBack(const QDateTime& date) {
+    const QString text = runtime::dateText(date);
+    fuzz::require(runtime::parseDate(text, runtime::DateOrder::DayFirst) == date,
+                  "a date's text reads back as the date");
+    const QString day = runtime::dateText(date.date());
+    fuzz::require(day.size() == 10 && text.startsWith(day) && runtime::textToDate(day) == date.date(),
+                  "a day is written dd/MM/yyyy and reads back as the day");
+    fuzz::require(runtime::dateFromSerial(runtime::serialFromDate(date.date())) == date.date(),
+                  "a serial reads back as the day");
 }
 
 /// The quoted texts and bracketed names from left to right; an unclosed one reaches to the end.
@@ -102,4 +115,58 @@ void fuzz::dialect(const QByteArray& input) {
                     u"DELETE FROM t WHERE a="_s + text + u" AND d='2005-12-31'"_s,
                 "a planted text is kept, and what surrounds it translated");
     }
+}
+
+void fuzz::dates(const QByteArray& input) {
+    const QString text = QString::fromUtf8(input);
+    const auto dayFirst = runtime::parseDate(text, runtime::DateOrder::DayFirst);
+    QDate date;
+    const int error = errorOf([&] { return date = runtime::textToDate(text); });
+    require(error == (dayFirst || text.isEmpty() ? 0 : runtime::TypeMismatch), "a date or a mismatch");
+    require(date == (dayFirst ? dayFirst->date() : QDate()), "text to date drops the time alone");
+    if (dayFirst)
+        thereAndBack(*dayFirst);
+
+    static const QRegularExpression firstTwo(u"(\\d+)([/.-])(\\d+)"_s);
+    QString swapped = text;
+    if (const auto match = firstTwo.match(text); match.hasMatch())
+        swapped.replace(match.capturedStart(), match.capturedLength(),
+                        match.captured(3) + match.captured(2) + match.captured(1));
+    require(swapped == text || runtime::parseDate(swapped, runtime::DateOrder::MonthFirst) == dayFirst,
+            "the two orders differ in the order alone");
+
+    quint64 any = 0; // the bytes themselves as a second of the years 1 to 9999
+    std::memcpy(&any, input.constData(), std::min(sizeof any, static_cast<std::size_t>(input.size())));
+    const QDate first(1, 1, 1);
+    constexpr quint64 seconds = 86'400;
+    const auto days = static_cast<quint64>(first.daysTo(QDate(9999, 12, 31))) + 1;
+    thereAndBack(QDateTime(first.addDays(static_cast<qint64>(any / seconds % days)),
+                           QTime::fromMSecsSinceStartOfDay(static_cast<int>(any % seconds) * 1000), Qt::UTC));
+}
+
+/// The first byte is the length of the list, usually nine.
+void fuzz::days(const QByteArray& input) {
+    constexpr int usual = 9;
+    const int length = input.isEmpty() || input[0] >= '0' ? usual : input[0] & 15;
+    const QString text = QString::fromUtf8(input);
+    FakeCheckList list(length);
+    const int error = errorOf([&] {
+        GGAllenHELPER::scriviGGAllen(text, list);
+        return 0;
+    });
+    require(error == (text.mid(length).contains(u'1') ? runtime::SubscriptOutOfRange : 0),
+            "a tick behind the list is an error, and nothing else is");
+    QString wanted(length, u'0');
+    for (int i = 0; i < std::min<qsizetype>(length, text.size()); ++i)
+        if (text[i] == u'1')
+            wanted[i] = u'1';
+    require(GGAllenHELPER::leggiGGAllen(list) == wanted, "the ticks are the string's, and read back as it");
+
+    QString printed;
+    const int printing = errorOf([&] { return printed = GGAllenHELPER::descrizioneGGAllen(text); });
+    require(printing == 0 || (printing == runtime::SubscriptOutOfRange && text.mid(usual).contains(u'1')),
+            "nine characters can always be printed");
+    if (printing == 0 && text.size() <= usual && !text.left(2).contains(u'1'))
+        require(printed.split(u" - "_s, Qt::SkipEmptyParts).size() == text.mid(2).count(u'1'),
+                "each day is named once");
 }
