@@ -14,6 +14,9 @@ struct Entry {
     Entry(const char* file, Run run);
 };
 
+/// Runs the class that the first argument names, all of them without one; the number of failures.
+int run(int argc, char** argv);
+
 } // namespace suite
 
 #define QUIVERDECK_TEST(Class)                                                                               \

@@ -1,9 +1,6 @@
-// The main function of the test programs; the application's kind is the build's choice.
 #include "support/Suite.h"
 
 #include <QFileInfo>
-
-#include QUIVERDECK_APPLICATION_HEADER
 
 #include <cstdio>
 #include <map>
@@ -23,8 +20,7 @@ suite::Entry::Entry(const char* file, Run run) {
         run;
 }
 
-int main(int argc, char** argv) {
-    const QUIVERDECK_APPLICATION application(argc, argv);
+int suite::run(int argc, char** argv) {
     int failures = 0;
     if (argc < 2)
         for (const auto& [name, test] : entries())
