@@ -17,7 +17,7 @@ QString percorsoLogo(const QString& stored) {
         return file;
     // An apostrophe in a stored text has become a backquote.
     for (const QString& name : {parts.last(), QString(parts.last()).replace(u'`', u'\'')}) {
-        const QString here = host::resolve(host::joined(u"\\images\\"_s + name));
+        QString here = host::resolve(host::joined(u"\\images\\"_s + name));
         if (QFileInfo(here).isFile())
             return here;
     }

@@ -96,7 +96,7 @@ enum class End { Refused, Splash, Works };
 
 struct Fault {
     QStringList told; ///< how the boxes begin; the first one of a start that fails may come several times
-    End end;
+    End end = End::Works;
     QString file; ///< whose contents must be kept, be it under another name
     Damage come;
 };

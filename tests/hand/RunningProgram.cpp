@@ -16,8 +16,8 @@ constexpr int glance = 10;      // ms between two looks
 
 } // namespace
 
-RunningProgram::RunningProgram(QString path, QProcessEnvironment environment)
-    : executable(std::move(path)), environment_(std::move(environment)) {}
+RunningProgram::RunningProgram(QString path, const QProcessEnvironment& environment)
+    : executable(std::move(path)), environment_(environment) {}
 
 RunningProgram::~RunningProgram() {
     process_.kill();

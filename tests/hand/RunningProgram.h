@@ -34,7 +34,7 @@ public:
 
 protected:
     /// The environment names the hand's plug-in and its socket, QUIVERDECK_HAND.
-    RunningProgram(QString executable, QProcessEnvironment environment);
+    RunningProgram(QString path, const QProcessEnvironment& environment);
     [[noreturn]] virtual void fail(const QString& what);
 
 private:
