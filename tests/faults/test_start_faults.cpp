@@ -148,9 +148,11 @@ private Q_SLOTS:
                 write(p.file(u"images/Q/001.JPG"_s), picture); // a later installation: nothing of it is taken
             });
         row("folder read-only", {cannotWrite}, End::Refused, {}, readOnly({}));
-        row("store read-only", {u"8-L’archivio è di sola lettura"_s}, End::Works, {}, readOnly(storeName));
-        row("backups read-only", {u"La copia di sicurezza dell’archivio non è riuscita."_s}, End::Works, {},
-            readOnly(u"backup"_s));
+        // The copies belong to another user in both: the second box comes when the child process has ended.
+        const QString noCopy = u"La copia di sicurezza dell’archivio non è riuscita."_s;
+        row("store read-only", {u"8-L’archivio è di sola lettura"_s, noCopy}, End::Works, {},
+            readOnly(storeName));
+        row("backups read-only", {noCopy}, End::Works, {}, readOnly(u"backup"_s));
         row("no room", {cannotWrite}, End::Refused, {}, [](RealProgram& p) { limitFiles(p, 0); });
         row("side file of zeros", {noSideFile}, End::Works, sideName,
             contents(sideName, QByteArray(5000, '\0')));
