@@ -40,8 +40,6 @@ public:
     /// Empties the data; key, place, owner and flags stay.
     void svuotaDati();
 
-    bool operator==(const Esercizio&) const = default;
-
 private:
     QString tabella() const;
 

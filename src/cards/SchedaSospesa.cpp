@@ -24,22 +24,23 @@ constexpr qsizetype vociDeiGiorni = 9; // of the header's list of training days
 
 // Each record's fields are named once, for both ways.
 
-template <class Riga, class Campo> void campiRiga(Riga& e, const Campo& campo) {
-    campo("ct"_L1, e.ct);
-    campo("nprog"_L1, e.nprog);
-    campo("id_scheda"_L1, e.id_scheda);
-    campo("id_fig"_L1, e.id_fig);
-    campo("durata"_L1, e.durata);
-    campo("frequenza"_L1, e.frequenza);
-    campo("ampiezza"_L1, e.ampiezza);
-    campo("recuperoMin"_L1, e.recuperoMin);
-    campo("recuperoSec"_L1, e.recuperoSec);
-    campo("serie"_L1, e.serie);
-    campo("modalita"_L1, e.modalita);
-    campo("peso"_L1, e.peso);
-    campo("note"_L1, e.note);
-    campo("isModello"_L1, e.isModello);
-    campo("isLibero"_L1, e.isLibero);
+/// Of one line, or of two side by side, to be compared.
+template <class Campo, class... Righe> void campiRiga(const Campo& campo, Righe&... e) {
+    campo("ct"_L1, e.ct...);
+    campo("nprog"_L1, e.nprog...);
+    campo("id_scheda"_L1, e.id_scheda...);
+    campo("id_fig"_L1, e.id_fig...);
+    campo("durata"_L1, e.durata...);
+    campo("frequenza"_L1, e.frequenza...);
+    campo("ampiezza"_L1, e.ampiezza...);
+    campo("recuperoMin"_L1, e.recuperoMin...);
+    campo("recuperoSec"_L1, e.recuperoSec...);
+    campo("serie"_L1, e.serie...);
+    campo("modalita"_L1, e.modalita...);
+    campo("peso"_L1, e.peso...);
+    campo("note"_L1, e.note...);
+    campo("isModello"_L1, e.isModello...);
+    campo("isLibero"_L1, e.isLibero...);
 }
 
 template <class Testi, class Campo> void campiTesti(Testi& t, const Campo& campo) {
@@ -136,7 +137,7 @@ QJsonArray elenco(const std::vector<Elemento>& elementi, const Scrivi& scrivi) {
 }
 
 QJsonArray elencoRighe(const std::vector<Esercizio>& righe) {
-    return elenco(righe, [](const Esercizio& e, const Scrittore& campo) { campiRiga(e, campo); });
+    return elenco(righe, [](const Esercizio& e, const Scrittore& campo) { campiRiga(campo, e); });
 }
 
 QJsonObject oggetto(const PaginaEsercizi& pagina) {
@@ -161,7 +162,7 @@ bool leggiElenco(const QJsonValue& valore, std::vector<Elemento>& elenco, const 
 }
 
 bool leggiRighe(const QJsonValue& valore, std::vector<Esercizio>& righe) {
-    return leggiElenco(valore, righe, [](Esercizio& e, const Lettore& campo) { campiRiga(e, campo); });
+    return leggiElenco(valore, righe, [](Esercizio& e, const Lettore& campo) { campiRiga(campo, e); });
 }
 
 bool leggiPagina(const QJsonValue& valore, std::optional<PaginaEsercizi>& pagina) {
@@ -217,7 +218,23 @@ std::set<qint32> righeEsistenti(const SchedaApribile::Esercizi& righe, bool isMo
     return trovate;
 }
 
+/// Without a text of the file's: asked behind each event.
+bool stesseRighe(const std::vector<Esercizio>& prime, const std::vector<Esercizio>& altre) {
+    bool stesse = prime.size() == altre.size();
+    const auto confronta = [&stesse](QLatin1StringView, const auto& uno, const auto& altro) {
+        stesse = stesse && uno == altro;
+    };
+    for (std::size_t i = 0; stesse && i < prime.size(); ++i)
+        campiRiga(confronta, prime[i], altre[i]);
+    return stesse;
+}
+
 } // namespace
+
+bool SchedaSospesa::Stato::operator==(const Stato& altro) const {
+    return testata == altro.testata && stesseRighe(esercizi, altro.esercizi) &&
+           stesseRighe(eliminati, altro.eliminati) && pagina == altro.pagina;
+}
 
 SchedaSospesa::Stato SchedaSospesa::stato() const {
     Stato stato{.testata = {{"isModello"_L1, scheda->isModello}},

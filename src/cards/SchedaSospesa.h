@@ -53,7 +53,7 @@ struct SchedaSospesa {
         std::vector<Esercizio> eliminati;
         std::optional<PaginaEsercizi> pagina;
 
-        bool operator==(const Stato&) const = default;
+        bool operator==(const Stato& altro) const;
     };
 
     Stato stato() const;

@@ -19,8 +19,6 @@ public:
     /// File name of the store, relative to the program's directory.
     QString dbName;
 
-    bool operator==(const db&) const = default;
-
     /// An open connection; raises if the file is missing or no store.
     store::Connection getConn() const;
     /// The rows of a query; raises.
