@@ -1,4 +1,5 @@
 #include "cards/EditorTest.h"
+#include "cards/SchedaCorpo2.h"
 #include "platform/toolkit/PictureBox.h"
 
 using namespace Qt::StringLiterals;
@@ -22,16 +23,18 @@ class TestCorpo : public EditorTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void saveLeavesBlanksOutAndKeepsTheGap() {
+    void droppedFiguresAreSavedAndBlanksLeftOut() {
         apriNuova();
-        QCOMPARE(righe(), u"0||0||0, 0||0||0"_s);
         QCOMPARE(mostrata(corpo(), 0), predefinita);
-        QVERIFY(corpo().drop(u"figura_0"_s, u"1"_s));
-        corpo().press(u"InserisciEsecizio_0"_s); // the blank one first, the figure second
+        for (const QString& altro : {u"gatto"_s, u"3 kg"_s, QString(), u"4294967296"_s})
+            QVERIFY2(!corpo().drop(u"figura_1"_s, altro), qPrintable(altro));
+        QVERIFY(corpo().drop(u"figura_1"_s, u"3"_s));
+        QVERIFY(!corpo().find<toolkit::PictureBox>(u"figura_1"_s).isEmpty());
+        QCOMPARE(aperta().esercizi->Item(2)->id_fig, 0); // only the next write has it
         barra().setValue(2);
         QVERIFY(corpo().drop(u"figura_1"_s, u"2"_s));
         salva();
-        QCOMPARE(rows(u"SELECT NProg, ID_Fig FROM Esercizi ORDER BY NProg"), u"2|1, 4|2"_s);
+        QCOMPARE(rows(u"SELECT NProg, ID_Fig FROM Esercizi ORDER BY NProg"), u"2|3, 4|2"_s);
     }
 
     void insertionMovesDownAndDeletionIsStoredAtOnce() {
@@ -75,42 +78,33 @@ private Q_SLOTS:
 
     void timesAreCountedAtEachEdit() {
         apriConFigure({1}); // three series of 45 s and 1 min 20 s: 2:15 and 4:00
-        const auto dopo = [](const QString& totale) {
+        for (const QString& passo : {u"recuperoMin_0|2|09:15"_s, u"recuperoSec_0|40|10:15"_s,
+                                     u"serie_0|5|17:05"_s, u"durata_0|60s|18:20"_s}) {
+            const QStringList parti = passo.split(u'|');
+            parti[0] == u"durata_0"_s ? corpo().choose(parti[0], parti[1]) : corpo().type(parti[0], parti[1]);
             const QString stato = editor().find<toolkit::StatusBar>(u"StatusBar1"_s).panel(u"status"_s);
-            QVERIFY2(stato.contains(u"Tempo totale: "_s + totale), qPrintable(stato));
-        };
-        dopo(u"06:15"_s);
-        corpo().choose(u"durata_0"_s, u"60s"_s);
-        dopo(u"07:00"_s);
-        corpo().type(u"recuperoMin_0"_s, u"2"_s);
-        dopo(u"10:00"_s);
-        corpo().type(u"recuperoSec_0"_s, u"40"_s);
-        dopo(u"11:00"_s);
-        corpo().type(u"serie_0"_s, u"5"_s);
-        dopo(u"18:20"_s);
+            QVERIFY2(stato.contains(u"Tempo totale: "_s + parti[2]), qPrintable(stato));
+        }
     }
 
     void refusedFieldsKeepTheFocus_data() {
-        QTest::addColumn<QString>("campo");
-        QTest::addColumn<QString>("testo");
         QTest::addColumn<QString>("messaggio");
         const QString lista = u"Selezionare un valore tra quelli disponibili!"_s;
-        QTest::newRow("another case") << u"durata_0"_s << u"30S"_s << lista;
-        QTest::newRow("emptied") << u"ampiezza_0"_s << QString() << lista;
-        QTest::newRow("the apostrophe guarded") << u"modalita_0"_s << u"d'urto"_s << lista;
-        QTest::newRow("60 s") << u"recuperoSec_0"_s << u"60"_s << u"Inserire un numero tra 0 e 59"_s;
-        QTest::newRow("59 s") << u"recuperoSec_0"_s << u"59"_s << QString();
-        QTest::newRow("99 series") << u"serie_1"_s << u"99"_s << QString();
-        QTest::newRow("100 series, letters dropped")
-            << u"serie_0"_s << u"1x00"_s << u"Valore troppo grande!"_s;
+        QTest::newRow("durata_0=30S") << lista; // another case
+        QTest::newRow("ampiezza_0=") << lista;
+        QTest::newRow("modalita_0=d'urto") << lista; // with its apostrophe guarded
+        QTest::newRow("recuperoSec_0=60") << u"Inserire un numero tra 0 e 59"_s;
+        QTest::newRow("recuperoSec_0=59") << QString();
+        QTest::newRow("serie_1=99") << QString();
+        QTest::newRow("serie_0=1x00") << u"Valore troppo grande!"_s; // letters are dropped
     }
     void refusedFieldsKeepTheFocus() {
-        QFETCH(QString, campo);
-        QFETCH(QString, testo);
         QFETCH(QString, messaggio);
+        const QStringList prova = QString::fromLatin1(QTest::currentDataTag()).split(u'=');
+        const QString campo = prova[0];
         apriNuova();
         const WindowPage pagina = corpo();
-        pagina.type(campo, testo);
+        pagina.type(campo, prova[1]);
         QVERIFY(!pagina.text(campo).contains(u'\'') && !pagina.text(campo).contains(u'x'));
         if (!messaggio.isEmpty())
             boxes().expect(Icon::Critical, messaggio);
@@ -130,15 +124,26 @@ private Q_SLOTS:
         QCOMPARE(fatale.lastNumber, int(runtime::TypeMismatch));
     }
 
-    void droppedFigures() {
-        apriNuova();
-        for (const QString& altro : {u"gatto"_s, u"3 kg"_s, QString(), u"4294967296"_s})
-            QVERIFY2(!corpo().drop(u"figura_1"_s, altro), qPrintable(altro));
-        QVERIFY(corpo().drop(u"figura_1"_s, u"3"_s));
-        QVERIFY(!corpo().find<toolkit::PictureBox>(u"figura_1"_s).isEmpty());
-        QCOMPARE(aperta().esercizi->Item(2)->id_fig, 0); // only the next write has it
-        barra().setValue(2);
-        QCOMPARE(aperta().esercizi->Item(2)->id_fig, 3);
+    /// The page of one exercise keeps what it does not show.
+    void compactPage() {
+        SchedaCorpo2& form = SchedaCorpo2::comune();
+        form.schedaAperta = std::make_shared<::scheda>();
+        addLines(*form.schedaAperta, {2});
+        Esercizio& e = *form.schedaAperta->esercizi->Item(1);
+        e.serie = 3;
+        form.show();
+        const WindowPage pagina(form);
+        for (const QString& riga : {u"H|1:30|H|1|30"_s, u"4 mm|2|4|2|0"_s, u"H|:75|H|0|75"_s}) {
+            pagina.type(u"ampiezza"_s, riga.section(u'|', 0, 0));
+            pagina.type(u"recupero"_s, riga.section(u'|', 1, 1));
+            pagina.press(u"cmdSucc"_s);
+            pagina.press(u"cmdPrec"_s);
+            QCOMPARE(u"%1|%2|%3"_s.arg(e.ampiezza).arg(e.recuperoMin).arg(e.recuperoSec),
+                     riga.section(u'|', 2));
+        }
+        pagina.type(u"recupero"_s, u"0:256"_s);
+        QCOMPARE(errorOf([&] { form.ScriviDati(); }), int(runtime::Overflow));
+        QCOMPARE(u"%1|%2|%3|%4"_s.arg(e.id_fig).arg(e.serie).arg(e.recuperoSec).arg(e.note), u"2|3|75|1"_s);
     }
 };
 
