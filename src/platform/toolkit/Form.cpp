@@ -2,10 +2,8 @@
 
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/ChildFrame.h"
-#include "platform/toolkit/Exposure.h"
 #include "platform/toolkit/OpenForms.h"
 #include "platform/toolkit/ParentForm.h"
-#include "platform/toolkit/Twips.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -13,26 +11,13 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QScopedValueRollback>
-#include <QScreen>
-#include <QWindow>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace toolkit {
 
-namespace {
-
-/// How long a show waits for the window manager to map a maximised window; milliseconds.
-constexpr int mapPatience = 1000;
-
-} // namespace
-
-Form::Form(const QString& name) : client_(new QWidget(this)) {
+Form::Form(const QString& name) {
     setObjectName(name);
-    client_->setObjectName(u"client"_s);
-    setWindowFlags(Qt::Window);
-    setAutoFillBackground(true); // a page must not show the frame's colour
     OpenForms::all().add(this);
 }
 
@@ -41,149 +26,12 @@ Form::~Form() {
     endModal();
 }
 
-QWidget* Form::outer() const {
-    return frame_ ? static_cast<QWidget*>(frame_.data()) : const_cast<Form*>(this);
-}
-
-QSize Form::frameExtra() const {
-    if (frame_)
-        return {2 * ChildFrame::border, ChildFrame::titleHeight + ChildFrame::border};
-    return isVisible() ? frameGeometry().size() - size() : QSize(0, 0);
-}
-
-double Form::left() const {
-    return toTwips(outer()->x());
-}
-
-double Form::top() const {
-    return toTwips(outer()->y());
-}
-
-double Form::outerWidth() const {
-    return toTwips(size().width() + frameExtra().width());
-}
-
-double Form::outerHeight() const {
-    return toTwips(size().height() + frameExtra().height());
-}
-
-double Form::innerWidth() const {
-    return toTwips(client_->width());
-}
-
-double Form::innerHeight() const {
-    return toTwips(client_->height());
-}
-
-void Form::setLeft(double twips) {
-    placed_ = true;
-    outer()->move(toPixels(twips), outer()->y());
-}
-
-void Form::setTop(double twips) {
-    placed_ = true;
-    outer()->move(outer()->x(), toPixels(twips));
-}
-
-void Form::setOuterSize(double width, double height) {
-    sized_ = true;
-    inner_ = QSize();
-    const QSize pixels(toPixels(width), toPixels(height));
-    if (!frame_ && !isVisible())
-        outerWanted_ = pixels;
-    resizeOuter(pixels);
-}
-
-void Form::setInnerSize(double width, double height) {
-    sized_ = true;
-    inner_ = QSize(toPixels(width), toPixels(height));
-    outerWanted_ = QSize();
-    resizeInner();
-}
-
-void Form::resizeInner() {
-    resizeOuter(inner_ + QSize(0, bars_.height()) + frameExtra());
-}
-
-void Form::resizeOuter(const QSize& pixels) {
-    const QSize inside = (pixels - frameExtra()).expandedTo({1, 1});
-    if (frame_) {
-        frame_->setFixedSize(pixels);
-        resize(inside);
-    } else if (resizable_ || maximised_) {
-        setMinimumSize(0, 0);
-        setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        resize(inside);
-    } else {
-        setFixedSize(inside);
-    }
-    arrange();
-}
-
-void Form::centre() {
-    const QRect room = screen()->availableGeometry();
-    placed_ = true;
-    move(room.center() - QPoint(width() / 2, height() / 2));
-}
-
-void Form::addTopBar(QWidget* bar) {
-    bar->setParent(this);
-    bars_.addTop(bar);
-    if (sized_)
-        resizeOuter(size() + frameExtra() + QSize(0, bar->sizeHint().height()));
-    arrange();
-}
-
-void Form::addBottomBar(QWidget* bar) {
-    bar->setParent(this);
-    bars_.addBottom(bar);
-    if (sized_)
-        resizeOuter(size() + frameExtra() + QSize(0, bar->sizeHint().height()));
-    arrange();
-}
-
-void Form::arrange() {
-    const QSize before = client_->size();
-    client_->setGeometry(bars_.arrange(size()));
-    if (client_->size() != before && state_ == State::Loaded)
-        onResize();
-}
-
-void Form::setResizable(bool resizable) {
-    resizable_ = resizable;
-    resizeOuter(size() + frameExtra());
-}
-
-void Form::setMaximised(bool maximised) {
-    maximised_ = maximised;
-    resizeOuter(size() + frameExtra());
-    if (isVisible() && !frame_) {
-        setWindowState(maximised ? windowState() | Qt::WindowMaximized
-                                 : windowState() & ~Qt::WindowMaximized);
-    }
-}
-
-void Form::setBorderless() {
-    borderless_ = true;
-}
-
 void Form::setParentForm(ParentForm& parent) {
     parentForm_ = &parent;
     setWindowFlags(Qt::Widget);
     setAutoFillBackground(true); // the colour of an active frame stays in its border
-    frame_ = new ChildFrame(*this);
-    parent.area()->addSubWindow(frame_);
     parent.pages_.append(this);
-    frame_->hide();
-    frame_->move(0, 0);
-    resizeOuter(size() + frameExtra());
-}
-
-void Form::setPointer(Pointer pointer) {
-    if (pointer == Pointer::Hourglass)
-        setCursor(Qt::WaitCursor);
-    else
-        unsetCursor();
+    putInto(*parent.area(), new ChildFrame(*this));
 }
 
 void Form::load() {
@@ -198,8 +46,7 @@ void Form::load() {
         throw;
     }
     if (state_ == State::Loading) {
-        if (inner_.isValid() && !maximised_)
-            resizeInner(); // bars grow with the pictures they get meanwhile
+        fitInner(); // bars grow with the pictures they get meanwhile
         state_ = State::Loaded;
         arrange();
     }
@@ -209,8 +56,8 @@ void Form::show() {
     setVisible(true);
     if (!isVisible())
         return;
-    if (frame_) {
-        parentForm_->area()->setActiveSubWindow(frame_);
+    if (frame()) {
+        parentForm_->area()->setActiveSubWindow(frame());
     } else {
         raise();
         activateWindow();
@@ -219,8 +66,8 @@ void Form::show() {
 
 void Form::setVisible(bool visible) {
     if (!visible) {
-        if (frame_) {
-            frame_->hide();
+        if (frame()) {
+            frame()->hide();
             return;
         }
         QWidget::setVisible(false);
@@ -235,62 +82,18 @@ void Form::setVisible(bool visible) {
     load();
     if (state_ == State::Gone)
         return;
-    if (frame_) {
+    if (frame()) {
         QWidget::setVisible(true);
-        frame_->setVisible(true);
+        frame()->setVisible(true);
     } else {
-        prepareWindow();
-        QWidget::setVisible(true);
-        waitForWindow();
-        if (outerWanted_.isValid())
-            resizeOuter(std::exchange(outerWanted_, QSize())); // now that the frame is known
+        showOnScreen(modal_, active());
     }
     onResize();
     activate();
 }
 
-void Form::prepareWindow() {
-    Qt::WindowFlags flags = modal_ ? Qt::Dialog : Qt::Window;
-    if (borderless_) {
-        flags |= Qt::FramelessWindowHint;
-    } else if (!resizable_ && !maximised_) {
-        flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                 Qt::WindowCloseButtonHint;
-    }
-    setWindowFlags(flags);
-    setWindowModality(modal_ ? Qt::ApplicationModal : Qt::NonModal);
-    if (maximised_) {
-        // The window manager's answer comes later; who measures at once gets what it will be.
-        resize(screen()->availableSize());
-        setWindowState(windowState() | Qt::WindowMaximized);
-    } else if (!placed_) {
-        centre();
-    }
-    if (modal_) {
-        const Form* owner = active();
-        winId();
-        if (owner != nullptr && owner != this && windowHandle() != nullptr)
-            stayAbove(owner);
-    }
-}
-
-void Form::stayAbove(const QWidget* other) {
-    QWindow* own = windowHandle();
-    QWindow* below = other == nullptr ? nullptr : other->windowHandle();
-    for (QWindow* window = below; window != nullptr; window = window->transientParent())
-        if (window->transientParent() == own)
-            window->setTransientParent(own->transientParent());
-    own->setTransientParent(below);
-}
-
-void Form::waitForWindow() {
-    if ((!maximised_ && !outerWanted_.isValid()) || QGuiApplication::platformName() != QLatin1String("xcb"))
-        return;
-    waitForExposure(*this, mapPatience);
-}
-
 void Form::showModal() {
-    if (loop_ != nullptr || frame_)
+    if (loop_ != nullptr || frame())
         runtime::raise(5, u"La finestra è già aperta."_s, objectName());
     load();
     if (state_ == State::Gone)
@@ -325,7 +128,7 @@ void Form::endModal() {
 }
 
 void Form::activate() {
-    if (frame_) {
+    if (frame()) {
         onActivate();
         return;
     }
@@ -363,8 +166,7 @@ bool Form::unload() {
 
 void Form::finishUnload() {
     state_ = State::Gone;
-    if (frame_) {
-        ChildFrame* frame = frame_;
+    if (ChildFrame* frame = this->frame()) {
         frame->hide();
         if (parentForm_)
             parentForm_->area()->removeSubWindow(frame);
@@ -381,7 +183,7 @@ void Form::destroyAll() {
 }
 
 bool Form::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate && !frame_ && isVisible() && state_ == State::Loaded &&
+    if (event->type() == QEvent::WindowActivate && !frame() && isVisible() && state_ == State::Loaded &&
         active() != this) {
         const auto* modal = qobject_cast<Form*>(QApplication::activeModalWidget());
         if (modal == nullptr || modal == this)
@@ -403,9 +205,9 @@ void Form::keyPressEvent(QKeyEvent* event) {
     QWidget::keyPressEvent(event);
 }
 
-void Form::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    arrange();
+void Form::innerResized() {
+    if (state_ == State::Loaded)
+        onResize();
 }
 
 } // namespace toolkit

@@ -1,71 +1,33 @@
 #pragma once
 
-#include "platform/toolkit/FormBars.h"
+#include "platform/toolkit/FormWindow.h"
 
 #include <QPointer>
 #include <QString>
-#include <QWidget>
 
 class QEventLoop;
 
 namespace toolkit {
 
 class ParentForm;
-class ChildFrame;
 
 /// A window of fixed geometry in twips, with a lifecycle of separate steps: made (design state), loaded,
-/// shown and activated, asked to unload, unloaded. Controls live in `client()`, the area below menu and
-/// toolbar and above the status bar; its size is what `innerWidth` and `innerHeight` speak of.
+/// shown and activated, asked to unload, unloaded. Controls live in `client()`.
 ///
 /// A derived class builds its controls in the constructor (the design state) and overrides the `on…`
 /// handlers.
-class Form : public QWidget {
+class Form : public FormWindow {
     Q_OBJECT
 public:
-    enum class Pointer { Default, Hourglass };
-
     /// `name` becomes the objectName.
     explicit Form(const QString& name);
     ~Form() override;
 
     QString Tag; ///< free text for whoever opens the form
 
-    QString caption() const { return windowTitle(); }
-    void setCaption(const QString& caption) { setWindowTitle(caption); }
-
-    /// The parent of the form's controls.
-    QWidget* client() const { return client_; }
-
-    // --- geometry in twips; outer sizes include frame, title, bars; inner ones are those of client() ---
-    double left() const;
-    double top() const;
-    double outerWidth() const;
-    double outerHeight() const;
-    double innerWidth() const;
-    double innerHeight() const;
-    void setLeft(double twips);
-    void setTop(double twips);
-    void setOuterSize(double width, double height);
-    void setInnerSize(double width, double height);
-    /// Puts the window into the middle of the screen.
-    void centre();
-
-    /// Bars take the full width, in the order of the calls, above (menus, toolbars) or below client().
-    void addTopBar(QWidget* bar);
-    void addBottomBar(QWidget* bar);
-
-    /// The user may resize the window (off at first).
-    void setResizable(bool resizable);
-    /// The first and every later show is maximised; also acts at once on a visible form.
-    void setMaximised(bool maximised);
-    /// No title, no frame (splash).
-    void setBorderless();
-
     /// Makes the form a child page of `parent`: it stands inside its area, and outer sizes include the slim
     /// frame. Call in the constructor or before the first show.
     void setParentForm(ParentForm& parent);
-
-    void setPointer(Pointer pointer);
 
     // --- lifecycle ---
     /// Runs `onLoad` unless the form is loaded already.
@@ -89,10 +51,6 @@ public:
     /// Destroys every form; at the program's end.
     static void destroyAll();
 
-    /// Keeps this window in front of another form's; of none for nullptr. Where the other stands in front of
-    /// this one already, it changes place with it: the toolkit follows these windows without end in a ring.
-    void stayAbove(const QWidget* other);
-
     void setVisible(bool visible) override;
 
 protected:
@@ -109,7 +67,7 @@ protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void innerResized() override;
 
 private:
     friend class ParentForm;
@@ -121,29 +79,12 @@ private:
     void leaveActivation();
     void finishUnload();
     void endModal();
-    void prepareWindow();
-    void waitForWindow();
-    QWidget* outer() const;
-    QSize frameExtra() const;
-    void resizeOuter(const QSize& pixels);
-    void resizeInner();
-    void arrange();
 
-    QWidget* client_;
-    QSize inner_; ///< client()'s size in pixels as last asked for; invalid if the outer size was
-    FormBars bars_;
     QPointer<ParentForm> parentForm_;
-    QPointer<ChildFrame> frame_;
     QEventLoop* loop_ = nullptr;
     State state_ = State::Design;
     bool modal_ = false;
     bool unloading_ = false;
-    bool maximised_ = false;
-    bool resizable_ = false;
-    bool borderless_ = false;
-    QSize outerWanted_;   ///< pixels; an outer size asked for before the window had its frame
-    bool placed_ = false; ///< somebody chose the position
-    bool sized_ = false;  ///< client() was given its size, which bars added later must not take
 };
 
 } // namespace toolkit
