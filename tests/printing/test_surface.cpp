@@ -1,11 +1,14 @@
-// The sheet's text layout and its pictures.
+// The sheet's text layout, its pictures, and the warning sheet.
 
 #include "SheetTest.h"
 
 #include "platform/pictures/PictureFile.h"
 #include "printing/Painting.h"
 #include "printing/Stile.h"
+#include "printing/SuperficieAvvertenze.h"
 #include "support/Files.h"
+
+#include <QCryptographicHash>
 
 using namespace Qt::StringLiterals;
 using namespace sheet;
@@ -71,6 +74,36 @@ private Q_SLOTS:
         writeFile(file, "non sono un'immagine");
         QCOMPARE(errorOf([&] { surface.load(shown, file); }), pictures::PictureFile::badPicture);
         QVERIFY(alike(shown.picture.stretchedTo({1, 1}).pixelColor(0, 0), Qt::blue));
+    }
+
+    void warnings() {
+        for (int i = 0; i < 5; ++i)
+            givePicture(program(), u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
+        const Surface surface = avvertenzeSurface();
+        // h is 15876: info at h - 570, the logos at h - 930 and h - 695, the warnings 1.5 heights from the
+        // foot.
+        for (const auto& row : {u"avvertenze 1065 10858.5"_s, u"info 8079.75 15306"_s,
+                                u"LogoZentara 9079.75 14946"_s, u"logoQD 610.3 15181"_s}) {
+            const Element& e = surface.element(row.section(u' ', 0, 0));
+            QCOMPARE(u"%1 %2 %3"_s.arg(e.name).arg(e.left, 0, 'g', 7).arg(e.top, 0, 'g', 7), row);
+        }
+        QVERIFY(!surface.element(u"info"_s).visible);
+        QCOMPARE(illFitting(surface, 0.85, 1), QStringList());
+        QByteArray all;
+        for (int i = 0; i < 5; ++i) {
+            const QString frame = u"Shape%1"_s.arg(QChar(u"12453"[i]));
+            const Element& words = surface.element(u"Label1"_s, i);
+            QVERIFY2(
+                surface.element(frame).rect().adjusted(30, 30, -30, -30).contains(FittedText(words).bounds()),
+                qPrintable(frame));
+            all += words.text.toUtf8() + '\n';
+        }
+        // A digest over every word, oddities included, taken from the sheet in use.
+        all += surface.element(u"avvertenze"_s).text.toUtf8();
+        QCOMPARE(QCryptographicHash::hash(all, QCryptographicHash::Sha256).toHex(),
+                 QByteArray("42e987c01810a049d495a14579189c4b5efba2aed9ca78ab8cba3626c80c78dd"));
+        QVERIFY(QFile::remove(program().folder() + u"/images/avvertenze/posa3.JPG"_s));
+        QCOMPARE(errorOf([] { return avvertenzeSurface(); }), int(runtime::FileNotFound));
     }
 
 private:
