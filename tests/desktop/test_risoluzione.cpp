@@ -11,30 +11,26 @@ using variabiliGlobali::rispostaRisoluzione;
 class TestRisoluzione : public WindowTest {
     Q_OBJECT
 private Q_SLOTS:
-    void starts_data() {
-        QTest::addColumn<QString>("stored"); // SQL; empty: no row
-        QTest::addColumn<int>("width");
-        QTest::addColumn<QString>("after");
-        QTest::addColumn<bool>("asks");
-        QTest::newRow("first") << QString() << 800 << u"1"_s << true;
-        QTest::newRow("eighth") << u"'7'"_s << 1023 << u"8"_s << true;
-        QTest::newRow("frozen") << u"'8'"_s << 800 << u"8"_s << false;
-        QTest::newRow("beyond 16 bits") << u"'40000'"_s << 800 << u"40000"_s << false;
-        QTest::newRow("wide enough") << QString() << 1024 << u"1"_s << false;
-        QTest::newRow("no number") << u"'abc'"_s << 800 << u"1"_s << true;
-    }
     void starts() {
-        QFETCH(QString, stored);
-        QFETCH(int, width);
-        QFETCH(bool, asks);
-        if (!stored.isEmpty())
-            sql(u"INSERT INTO Parametri VALUES ('CAMBIO_RISOLUZIONE',"_s + stored + u')');
-        if (asks)
-            boxes().expectBeginning(Icon::Critical, u"Il programma è stato ottimizzato"_s, Answer::No);
-        const FakeDisplay display(width);
-        controllaRisoluzione();
-        QTEST(rows(u"SELECT valore FROM Parametri WHERE parametro='CAMBIO_RISOLUZIONE'"), "after");
-        QCOMPARE(display.asked, QString());
+        for (const auto& [stored, width, after, asks] : // empty: no row
+             std::initializer_list<std::tuple<QString, int, QString, bool>>{
+                 {{}, 800, u"1"_s, true},
+                 {u"7"_s, 1023, u"8"_s, true},
+                 {u"8"_s, 800, u"8"_s, false},         // frozen
+                 {u"40000"_s, 800, u"40000"_s, false}, // beyond 16 bits
+                 {{}, 1024, u"1"_s, false},            // wide enough
+                 {u"abc"_s, 800, u"1"_s, true}}) {
+            sql(u"DELETE FROM Parametri WHERE parametro = 'CAMBIO_RISOLUZIONE'");
+            if (!stored.isEmpty())
+                sql(u"INSERT INTO Parametri VALUES ('CAMBIO_RISOLUZIONE','%1')"_s.arg(stored));
+            if (asks)
+                boxes().expectBeginning(Icon::Critical, u"Il programma è stato ottimizzato"_s, Answer::No);
+            const FakeDisplay display(width);
+            controllaRisoluzione();
+            QCOMPARE(rows(u"SELECT valore FROM Parametri WHERE parametro='CAMBIO_RISOLUZIONE'"), after);
+            QCOMPARE(display.asked, QString());
+            QVERIFY(boxes().satisfied());
+        }
     }
 
     void confirmed_data() {
