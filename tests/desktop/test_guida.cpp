@@ -6,39 +6,21 @@
 #include "desktop/frmAbout.h"
 #include "desktop/frmPersonalizza.h"
 #include "platform/host/ProgramDirectory.h"
+#include "support/Files.h"
 #include "support/WindowTest.h"
 
-#include <QDir>
-
 using namespace Qt::StringLiterals;
-
-static const QString file =
-    u"<!--capitolo Primo-->\n<!--pagina benvenuto|Benvenuti-->\n<h1>Benvenuti</h1>\n"
-    "<p>Perché l’età conta: <a href=\"#palestra\">il logo</a></p>\n"
-    "<!--pagina palestra|Palestra-->\n<h1>Palestra</h1><p>Il logo</p>\n"
-    "<!--capitolo Secondo-->\n<!--pagina finestra-principale|Finestra-->\n<p>Menu</p>\n<!--fine-->\n"_s;
 
 class TestGuida : public WindowTest {
     Q_OBJECT
 
-    void write(const QString& name, const QString& text) const {
-        QDir().mkpath(program().folder() + u"/HELP"_s);
-        QFile out(program().folder() + u"/HELP/"_s + name);
-        QVERIFY(out.open(QIODevice::WriteOnly));
-        out.write(text.toUtf8());
-    }
+    QString help(const QString& file) const { return program().folder() + u"/HELP/"_s + file; }
     static WindowPage page() { return WindowPage(FinestraGuida::comune()); }
     /// The page, and which ways are open from it.
     static QString at() {
         return u"%1 %2%3"_s.arg(FinestraGuida::comune().pagina())
             .arg(page().isEnabled(u"indietro"_s))
             .arg(page().isEnabled(u"avanti"_s));
-    }
-    static QString contents() {
-        QStringList lines;
-        for (QTreeWidgetItemIterator item(&page().find<QTreeWidget>(u"indice"_s)); *item != nullptr; ++item)
-            lines += (*item)->text(0);
-        return lines.join(u' ');
     }
     static void command(const QString& name) {
         Principale::comune().show();
@@ -49,7 +31,12 @@ private Q_SLOTS:
     void init() {
         WindowTest::init();
         guida::file = host::joined(u"\\HELP\\HELP.hlp"_s);
-        write(u"HELP.hlp"_s, file);
+        writeFile(help(u"HELP.hlp"_s),
+                  "<!--capitolo Primo-->\n<!--pagina benvenuto|Benvenuti-->\n<h1>Benvenuti</h1>\n"
+                  "<p>Perché l’età conta: <a href=\"#palestra\">il logo</a></p>\n"
+                  "<!--pagina palestra|Palestra-->\n<h1>Palestra</h1><p>Il logo</p>\n"
+                  "<!--capitolo Secondo-->\n<!--pagina finestra-principale|Finestra-->\n<p>Menu</p>\n"
+                  "<!--fine-->\n");
     }
 
     void goingBackAndForward() {
@@ -68,15 +55,15 @@ private Q_SLOTS:
 
     void searching() {
         FinestraGuida::mostra(u"benvenuto"_s);
-        for (const auto& [words, found] : std::initializer_list<std::pair<QString, QString>>{
-                 {u"LOGO"_s, u"Primo Benvenuti Palestra"_s},
-                 {u"eta perche"_s, u"Primo Benvenuti"_s},
-                 {u"l'età"_s, u"Primo Benvenuti"_s},
-                 {u"href"_s, u"Nessuna pagina trovata"_s},
-                 {u"logo menu"_s, u"Nessuna pagina trovata"_s},
-                 {QString(), u"Primo Benvenuti Palestra Secondo Finestra"_s}}) {
-            page().find<toolkit::TextBox>(u"cerca"_s).setText(words);
-            QCOMPARE(contents() + at(), found + u"benvenuto 00"_s);
+        for (const auto& row :
+             {u"LOGO|Primo Benvenuti Palestra"_s, u"eta perche|Primo Benvenuti"_s, u"l'età|Primo Benvenuti"_s,
+              u"href|Nessuna pagina trovata"_s, u"logo menu|Nessuna pagina trovata"_s,
+              u"|Primo Benvenuti Palestra Secondo Finestra"_s}) {
+            page().find<toolkit::TextBox>(u"cerca"_s).setText(row.section(u'|', 0, 0));
+            QStringList contents;
+            for (QTreeWidgetItemIterator item(&page().find<QTreeWidget>(u"indice"_s)); *item; ++item)
+                contents += (*item)->text(0);
+            QCOMPARE(contents.join(u' ') + at(), row.section(u'|', 1) + u"benvenuto 00"_s);
         }
     }
 
@@ -108,36 +95,33 @@ private Q_SLOTS:
     }
 
     void everyWindowHasItsPage() {
-        const QDir pages(qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine"_s);
         const QString windows =
             u"Principale UtentiSelezione UtentiNuovo mdiScheda SchedaIntestazione SchedaCorpo PrinterCanvas "
             "SchedaSelezioneFIGURE SchedaPreviewFigura SchedeSelezione SchedeMODELLOSelezione "
-            "PrinterDaNonFare "
-            "SchedeMODELLONuova SchedaIntestazioneMODELLO frmPersonalizza ResolutionConfirm"_s;
+            "PrinterDaNonFare SchedeMODELLONuova SchedaIntestazioneMODELLO frmPersonalizza ResolutionConfirm"_s;
+        const QString pages = qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine/%1.md"_s;
         for (const QString& window : windows.split(u' '))
-            QVERIFY2(haPagina(window) && pages.exists(paginaDellaFinestra(window) + u".md"_s),
+            QVERIFY2(haPagina(window) && QFile::exists(pages.arg(paginaDellaFinestra(window))),
                      qPrintable(window));
     }
 
     void missingFile() {
-        write(u"HELP.hlp"_s, u"altro"_s);
+        QVERIFY(QFile::rename(help(u"HELP.hlp"_s), help(u"altrove"_s)));
         boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
         FinestraGuida::mostra(u"palestra"_s);
-        write(u"HELP.hlp"_s, file); // put back, it opens at once
+        QVERIFY(QFile::rename(help(u"altrove"_s), help(u"HELP.hlp"_s))); // put back, it opens at once
         FinestraGuida::mostra(u"palestra"_s);
         QCOMPARE(at(), u"palestra 00"_s);
     }
 
     void manualOpensWithTheFolder() {
         // The launcher tells what it was started with; the program's folder has blanks and accents.
-        write(u"manuale"_s, u"#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$1/detto.tmp\"\n"
-                            "mv \"$1/detto.tmp\" \"$1/detto.txt\"\n"_s);
-        QFile::setPermissions(program().folder() + u"/HELP/manuale"_s, QFile::ReadOwner | QFile::ExeOwner);
+        writeFile(help(u"manuale"_s), "#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > \"$1/detto.tmp\"\n"
+                                      "mv \"$1/detto.tmp\" \"$1/detto.txt\"\n");
+        QFile::setPermissions(help(u"manuale"_s), QFile::ReadOwner | QFile::ExeOwner);
         command(u"mnuHelpManuale"_s);
-        QFile answer(program().folder() + u"/detto.txt"_s);
-        QTRY_VERIFY(answer.exists());
-        QVERIFY(answer.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(answer.readAll()), u"1|"_s + program().folder());
+        QTRY_COMPARE(QString::fromUtf8(readFile(program().folder() + u"/detto.txt"_s)),
+                     u"1|"_s + program().folder());
     }
 };
 

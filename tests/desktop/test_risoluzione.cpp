@@ -33,40 +33,36 @@ private Q_SLOTS:
         }
     }
 
-    void confirmed_data() {
-        QTest::addColumn<int>("answer");
-        for (const auto& [act, answer] :
-             {std::pair("OKButton", 1), {"CancelButton", 2}, {"close", 0}, {"timer", 2}})
-            QTest::newRow(act) << answer;
-    }
     void confirmed() {
-        const QString act = QString::fromLatin1(QTest::currentDataTag());
-        QFETCH(int, answer);
-        rispostaRisoluzione = 0;
-        boxes().expectBeginning(Icon::Critical, u"Il programma è stato ottimizzato"_s, Answer::Yes);
-        boxes().expectBeginning(Icon::Information, u"Il programma proverà ora a cambiare risoluzione"_s);
-        if (answer == 2)
-            boxes().expect(Icon::Information, u"Reimpostata risoluzione precedente"_s);
-        FakeDisplay display;
-        display.accepts = answer != 1; // a refused mode brings the confirmation up all the same
-        const FormPage page(ResolutionConfirm::comune());
-        auto* timer = page.window().findChild<QTimer*>(u"Timer"_s);
-        QCOMPARE(timer->interval(), 1000);
-        QString seconds;
-        if (act == u"timer"_s) {
-            timer->setInterval(0);
-            connect(timer, &QTimer::timeout, this, [&] { seconds += page.text(u"lblSec"_s) + u' '; });
-        } else {
-            whenModal([&](toolkit::Form& form) {
-                QCOMPARE(page.text(u"lblSec"_s), u"16"_s);
-                act == u"close"_s ? static_cast<void>(form.close()) : page.press(act);
-            });
+        for (const QString& act : {u"OKButton"_s, u"CancelButton"_s, u"close"_s, u"timer"_s}) {
+            const int answer = act == u"OKButton" ? 1 : act == u"close" ? 0 : 2;
+            rispostaRisoluzione = 0;
+            boxes().expectBeginning(Icon::Critical, u"Il programma è stato ottimizzato"_s, Answer::Yes);
+            boxes().expectBeginning(Icon::Information, u"Il programma proverà ora a cambiare risoluzione"_s);
+            if (answer == 2)
+                boxes().expect(Icon::Information, u"Reimpostata risoluzione precedente"_s);
+            FakeDisplay display;
+            display.accepts = answer != 1; // a refused mode brings the confirmation up all the same
+            const FormPage page(ResolutionConfirm::comune());
+            auto* timer = page.window().findChild<QTimer*>(u"Timer"_s);
+            QCOMPARE(timer->interval(), 1000);
+            QString seconds;
+            if (act == u"timer") {
+                timer->setInterval(0);
+                connect(timer, &QTimer::timeout, this, [&] { seconds += page.text(u"lblSec"_s) + u' '; });
+            } else {
+                whenModal([&](toolkit::Form& form) {
+                    QCOMPARE(page.text(u"lblSec"_s), u"16"_s);
+                    act == u"close" ? static_cast<void>(form.close()) : page.press(act);
+                });
+            }
+            controllaRisoluzione();
+            QCOMPARE(int(rispostaRisoluzione), answer);
+            QCOMPARE(display.asked, answer == 2 ? u"1024x768x24 800x600x24 "_s : u"1024x768x24 "_s);
+            if (act == u"timer") // cancelled one tick after the last second
+                QCOMPARE(seconds, u"15 14 13 12 11 10 9 8 7 6 5 4 3 2 1 0 0 "_s);
+            QVERIFY(boxes().satisfied());
         }
-        controllaRisoluzione();
-        QCOMPARE(int(rispostaRisoluzione), answer);
-        QCOMPARE(display.asked, answer == 2 ? u"1024x768x24 800x600x24 "_s : u"1024x768x24 "_s);
-        if (act == u"timer"_s) // cancelled one tick after the last second
-            QCOMPARE(seconds, u"15 14 13 12 11 10 9 8 7 6 5 4 3 2 1 0 0 "_s);
     }
 
     void withoutADisplay() {
