@@ -40,6 +40,10 @@ private Q_SLOTS:
     }
 
     void goingBackAndForward() {
+        QVERIFY(QFile::rename(help(u"HELP.hlp"_s), help(u"altrove"_s)));
+        boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
+        FinestraGuida::mostra(u"palestra"_s);
+        QVERIFY(QFile::rename(help(u"altrove"_s), help(u"HELP.hlp"_s))); // put back, it opens at once
         FinestraGuida::mostra(u"nessuna"_s); // the first page stands for one that is not there
         QCOMPARE(at(), u"benvenuto 00"_s);
         Q_EMIT page().find<QTextBrowser>(u"testo"_s).anchorClicked(QUrl(u"#palestra"_s));
@@ -92,26 +96,6 @@ private Q_SLOTS:
         QCOMPARE(FinestraGuida::comune().pagina(), u"finestra-principale"_s);
         Principale::comune().unload(); // nothing stays open behind it
         QVERIFY(!FinestraGuida::esiste());
-    }
-
-    void everyWindowHasItsPage() {
-        const QString windows =
-            u"Principale UtentiSelezione UtentiNuovo mdiScheda SchedaIntestazione SchedaCorpo PrinterCanvas "
-            "SchedaSelezioneFIGURE SchedaPreviewFigura SchedeSelezione SchedeMODELLOSelezione "
-            "PrinterDaNonFare SchedeMODELLONuova SchedaIntestazioneMODELLO frmPersonalizza ResolutionConfirm"_s;
-        const QString pages = qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine/%1.md"_s;
-        for (const QString& window : windows.split(u' '))
-            QVERIFY2(haPagina(window) && QFile::exists(pages.arg(paginaDellaFinestra(window))),
-                     qPrintable(window));
-    }
-
-    void missingFile() {
-        QVERIFY(QFile::rename(help(u"HELP.hlp"_s), help(u"altrove"_s)));
-        boxes().expectBeginning(Icon::Critical, u"La guida non si trova o non è leggibile: "_s);
-        FinestraGuida::mostra(u"palestra"_s);
-        QVERIFY(QFile::rename(help(u"altrove"_s), help(u"HELP.hlp"_s))); // put back, it opens at once
-        FinestraGuida::mostra(u"palestra"_s);
-        QCOMPARE(at(), u"palestra 00"_s);
     }
 
     void manualOpensWithTheFolder() {

@@ -12,22 +12,20 @@ class TestRisoluzione : public WindowTest {
     Q_OBJECT
 private Q_SLOTS:
     void starts() {
-        for (const auto& [stored, width, after, asks] : // empty: no row
-             std::initializer_list<std::tuple<QString, int, QString, bool>>{
-                 {{}, 800, u"1"_s, true},
-                 {u"7"_s, 1023, u"8"_s, true},
-                 {u"8"_s, 800, u"8"_s, false},         // frozen
-                 {u"40000"_s, 800, u"40000"_s, false}, // beyond 16 bits
-                 {{}, 1024, u"1"_s, false},            // wide enough
-                 {u"abc"_s, 800, u"1"_s, true}}) {
+        // The count that is stored, the screen's width, the count afterwards, and whether there is a
+        // question.
+        for (const auto& row :
+             {u"|800|1|asks"_s, u"7|1023|8|asks"_s, u"8|800|8|frozen"_s, u"40000|800|40000|beyond 16 bits"_s,
+              u"|1024|1|wide enough"_s, u"abc|800|1|asks"_s}) {
+            const QStringList cells = row.split(u'|');
             sql(u"DELETE FROM Parametri WHERE parametro = 'CAMBIO_RISOLUZIONE'");
-            if (!stored.isEmpty())
-                sql(u"INSERT INTO Parametri VALUES ('CAMBIO_RISOLUZIONE','%1')"_s.arg(stored));
-            if (asks)
+            if (!cells[0].isEmpty())
+                sql(u"INSERT INTO Parametri VALUES ('CAMBIO_RISOLUZIONE','%1')"_s.arg(cells[0]));
+            if (cells[3] == u"asks")
                 boxes().expectBeginning(Icon::Critical, u"Il programma è stato ottimizzato"_s, Answer::No);
-            const FakeDisplay display(width);
+            const FakeDisplay display(cells[1].toInt());
             controllaRisoluzione();
-            QCOMPARE(rows(u"SELECT valore FROM Parametri WHERE parametro='CAMBIO_RISOLUZIONE'"), after);
+            QCOMPARE(rows(u"SELECT valore FROM Parametri WHERE parametro='CAMBIO_RISOLUZIONE'"), cells[2]);
             QCOMPARE(display.asked, QString());
             QVERIFY(boxes().satisfied());
         }

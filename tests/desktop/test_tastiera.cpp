@@ -20,21 +20,26 @@
 
 using namespace Qt::StringLiterals;
 
-using Window = std::function<QWidget*()>;
-Q_DECLARE_METATYPE(Window)
-
-template <class F> static QWidget* shown() {
-    F::comune().show();
-    return &F::comune();
-}
-
-/// Every window by keyboard and by ear, and with every text whole.
+/// Every window by keyboard and by ear, with every text whole and a page of the guide.
 class TestTastiera : public EditorTest {
     Q_OBJECT
 
+    /// Shows a window of at least `stops` places for Tab; the toolbars take no focus.
+    template <class F> static void walk(int stops) {
+        F& window = F::comune();
+        window.show();
+        QCOMPARE(namelessControls(window) + leapsOfTab(window) + cutTexts(window), QStringList());
+        QVERIFY2(tabStops(window) >= stops, qPrintable(window.objectName()));
+        const QString help = qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine/%1.md"_s;
+        auto pages = window.template findChildren<toolkit::Form*>() << &window;
+        for (const toolkit::Form* page : pages)
+            if (const QString name = page->objectName(); name != u"FinestraGuida")
+                QVERIFY2(haPagina(name) && QFile::exists(help.arg(paginaDellaFinestra(name))),
+                         qPrintable(name));
+    }
+
 private Q_SLOTS:
-    void init() {
-        EditorTest::init();
+    void windows() {
         for (int i = 0; i < 5; ++i)
             givePicture(program(), u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
         guida::file = program().folder() + u"/HELP.hlp"_s;
@@ -43,61 +48,47 @@ private Q_SLOTS:
         variabiliGlobali::idSchedaSelezionata = 1;
         SchedeSelezione::comune().idUtenteLista = 1;
         SchedeSelezione::comune().fillList();
+        walk<Principale>(0);
+        walk<UtentiSelezione>(2);
+        walk<UtentiNuovo>(6);
+        walk<SchedeSelezione>(1);
+        walk<SchedeMODELLOSelezione>(1);
+        walk<SchedeMODELLONuova>(3);
+        walk<PrinterCanvas>(1);
+        walk<PrinterDaNonFare>(1);
+        walk<frmPersonalizza>(5);
+        walk<frmAbout>(4);
+        walk<ResolutionConfirm>(2);
+        walk<FinestraGuida>(3);
     }
 
-    void walk_data() {
-        QTest::addColumn<int>("stops"); // at least; the toolbars take no focus
-        QTest::addColumn<Window>("open");
-        const auto editor = [this](std::initializer_list<int> figure) {
-            apriConFigure(figure);
-            return &mdiScheda::comune();
-        };
-        QTest::newRow("Principale") << 0 << Window(shown<Principale>);
-        QTest::newRow("UtentiSelezione") << 2 << Window(shown<UtentiSelezione>);
-        QTest::newRow("UtentiNuovo") << 6 << Window(shown<UtentiNuovo>);
-        QTest::newRow("SchedeSelezione") << 1 << Window(shown<SchedeSelezione>);
-        QTest::newRow("SchedeMODELLOSelezione") << 1 << Window(shown<SchedeMODELLOSelezione>);
-        QTest::newRow("SchedeMODELLONuova") << 3 << Window(shown<SchedeMODELLONuova>);
-        QTest::newRow("the editor with a card") << 15 << Window([editor] { return editor({1, 2, 3}); });
-        QTest::newRow("the editor with free lines") << 15 << Window([editor] { return editor({0, 0}); });
-        QTest::newRow("the editor with a template") << 10 << Window([this] {
-            nuovoModello();
-            apri(0, 0, 2);
-            return &mdiScheda::comune();
-        });
-        QTest::newRow("the editor with a figure enlarged") << 18 << Window([editor] {
-            SchedaPreviewFigura::comune().show();
-            return editor({1, 2, 3});
-        });
-        QTest::newRow("PrinterCanvas") << 1 << Window(shown<PrinterCanvas>);
-        QTest::newRow("PrinterDaNonFare") << 1 << Window(shown<PrinterDaNonFare>);
-        QTest::newRow("frmPersonalizza") << 5 << Window(shown<frmPersonalizza>);
-        QTest::newRow("frmAbout") << 4 << Window(shown<frmAbout>);
-        QTest::newRow("ResolutionConfirm") << 2 << Window(shown<ResolutionConfirm>);
-        QTest::newRow("FinestraGuida") << 3 << Window(shown<FinestraGuida>);
-    }
-    void walk() {
-        QFETCH(int, stops);
-        QFETCH(Window, open);
-        const QWidget& window = *open();
-        QVERIFY(window.isVisible());
-        QCOMPARE(namelessControls(window) + leapsOfTab(window) + cutTexts(window), QStringList());
-        QVERIFY2(tabStops(window) >= stops, qPrintable(QString::number(tabStops(window))));
+    void editorWithFreeLines() {
+        apriConFigure({0, 0});
+        walk<mdiScheda>(15);
     }
 
-    void pagesByKeyboard() {
-        apriConFigure({1});
+    void editorWithATemplate() {
+        nuovoModello();
+        apri(0, 0, 2);
+        walk<mdiScheda>(10);
+    }
+
+    void editorWithACard() {
+        apriConFigure({1, 2, 3});
         QString pages;
         for (int i = 0; i < 6; ++i) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6,
                             i < 3 ? Qt::NoModifier : Qt::ShiftModifier);
             for (const toolkit::Form* page : mdiScheda::comune().pages())
-                pages +=
-                    page->isAncestorOf(QApplication::focusWidget()) ? page->objectName() + u' ' : QString();
+                if (page->isAncestorOf(QApplication::focusWidget()))
+                    pages += page->objectName() + u' ';
         }
         // The enlarged figure is hidden and left out.
         QCOMPARE(pages, u"SchedaSelezioneFIGURE SchedaIntestazione SchedaCorpo "
                         "SchedaIntestazione SchedaSelezioneFIGURE SchedaCorpo "_s);
+        walk<mdiScheda>(15);
+        SchedaPreviewFigura::comune().show();
+        walk<mdiScheda>(18);
     }
 };
 
