@@ -10,18 +10,19 @@ void EditorTest::init() {
     sql(u"INSERT INTO utenti VALUES (1,'Mario','Rossi',NULL,'M','')");
 }
 
-int EditorTest::nuovaScheda() const {
+int EditorTest::nuovaScheda(std::initializer_list<int> figure) const {
     sql(u"INSERT INTO schede (id_utente,Istruttore,PeriodoDal,PeriodoAl,id_cat,FreqAllen,GGAllen,Obiettivo,"
         "note) VALUES (1,'Anna','2026-11-02','2026-11-30',2,2,'001010100','Forza','Bere molto')");
-    return rows(u"SELECT max(id_scheda) FROM schede").toInt();
-}
-
-void EditorTest::esercizio(int scheda, int posizione, int figura, const QString& note) const {
-    const auto riga =
-        u"INSERT INTO Esercizi (NProg,ID_Scheda,ID_Fig,Durata,Frequenza,Ampiezza,RecuperoMin,"
-        "RecuperoSec,Serie,Modalita,Peso,isLibero,Note) VALUES (%1,%2,%3,'45s','40Hz','H',1,20,3,"
-        "'Combinata','5 kg',%3=0,'%4')"_s;
-    sql(riga.arg(posizione).arg(scheda).arg(figura).arg(note));
+    const int scheda = rows(u"SELECT max(id_scheda) FROM schede").toInt();
+    int posizione = 0;
+    for (const int figura : figure) {
+        ++posizione;
+        sql(u"INSERT INTO Esercizi VALUES (NULL,%1,%2,%3,'45s','40Hz','H',1,20,3,'Combinata','5 kg',%3=0,"
+            "char(96+%1))"_s.arg(posizione)
+                .arg(scheda)
+                .arg(figura));
+    }
+    return scheda;
 }
 
 void EditorTest::nuovoModello() const {
@@ -38,12 +39,7 @@ void EditorTest::apri(int utente, int scheda, int modello) {
 }
 
 int EditorTest::apriConFigure(std::initializer_list<int> figure) const {
-    const int scheda = nuovaScheda();
-    int posizione = 0;
-    for (const int figura : figure) {
-        esercizio(scheda, posizione + 1, figura, QString(QChar(u'a' + posizione)));
-        ++posizione;
-    }
+    const int scheda = nuovaScheda(figure);
     apri(1, scheda, 0);
     return scheda;
 }

@@ -14,16 +14,15 @@ protected Q_SLOTS:
     void init();
 
 protected:
-    /// Adds a card of athlete 1, category 2, with the period of November 2026; its key comes back.
-    int nuovaScheda() const;
-    /// Adds an exercise to a card: figure 0 makes it free.
-    void esercizio(int scheda, int posizione, int figura, const QString& note = {}) const;
+    /// Adds a card of athlete 1, category 2, with the period of November 2026 and one exercise of each figure
+    /// (0 makes it free), its notes "a", "b", …; its key comes back.
+    int nuovaScheda(std::initializer_list<int> figure) const;
     /// Adds the user's template 2, "Mio", with one line of figure 1.
     void nuovoModello() const;
 
     static void apri(int utente, int scheda, int modello);
     static void apriNuova() { apri(1, 0, 0); }
-    /// Opens a new card with one exercise of each figure, its notes "a", "b", …; its key comes back.
+    /// The same, and opens it.
     int apriConFigure(std::initializer_list<int> figure) const;
 
     static SchedaApribile& aperta() { return *mdiScheda::comune().schedaAperta; }

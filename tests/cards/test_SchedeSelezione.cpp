@@ -26,7 +26,9 @@ private Q_SLOTS:
             "(2,1,NULL,NULL,'x',0)");
     }
 
-    void listsTheAthletesCards() {
+    void listPreviewAndDeletion() {
+        FormPage(open()).clickLine(u"LW"_s, 1, 2);
+        QCOMPARE(idSchedaSelezionata, 2);
         const FormPage page(open());
         QCOMPARE(page.text(u"utente"_s), u"[D`Amico Niccolò]"_s);
         QCOMPARE(
@@ -34,12 +36,6 @@ private Q_SLOTS:
             u"1|01/12/2005|15/01/2006|Giulia D’Amico|Condizionamento generale\n2||03/02/2006||Generale"_s);
         const QAbstractItemView& list = page.list();
         QVERIFY(list.sizeHintForColumn(4) <= page.list().columnWidth(4));
-        page.clickLine(u"LW"_s, 1, 2);
-        QCOMPARE(idSchedaSelezionata, 2);
-    }
-
-    void deletingAfterAPreview() {
-        const FormPage page(open());
         page.clickLine(u"LW"_s, 1);
         sql(u"INSERT INTO Esercizi VALUES (1,1,2,0,'','','',0,0,0,'','',1,'Corsa')");
         whenModal([](toolkit::Form& form) {

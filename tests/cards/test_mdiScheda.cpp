@@ -21,7 +21,7 @@ class TestMdiScheda : public EditorTest {
 private Q_SLOTS:
     void opensWhatTheGlobalsSay() {
         sql(u"INSERT INTO figure VALUES (5,'QUIVR',9,'images\\Q\\001.JPG')"); // shares a file
-        esercizio(nuovaScheda(), 1, 1);
+        nuovaScheda({1});
         nuovoModello();
         // Key, category, template, number of lines, athlete, the buttons Salva and Stampa.
         const auto aperto = [](int utente, int scheda, int modello) {
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QVERIFY(!mdiScheda::comune().puoiChiudere);
         corpo().type(u"note_0"_s, u"terza"_s);
         salva();
-        QCOMPARE(rows(u"SELECT id_scheda, id_utente FROM schede"), u"1|1"_s);
+        QCOMPARE(rows(u"SELECT id_scheda, id_utente, id_cat, note FROM schede"), u"1|1|1|Note del modello"_s);
         QCOMPARE(rows(u"SELECT ct, NProg, ID_Fig, Note FROM Esercizi"), u"1|1|2|terza, 2|2|3|seconda"_s);
         QCOMPARE(rows(u"SELECT Note FROM EserciziModello"), u"prima, seconda"_s);
     }
@@ -84,14 +84,16 @@ private Q_SLOTS:
         QCOMPARE(scelti(), u"0 0 1"_s);
     }
 
-    // A toolbar button does not validate; 256 series were not counted, so nothing has been written yet.
-    void failedSaveTellsOfNoSuccess() {
-        apriNuova();
-        corpo().type(u"serie_0"_s, u"256"_s);
+    // Beyond 8 bits nothing is written: no row leaves its place, and Salva tells of no success.
+    void numbersThatDoNotFit() {
+        apriConFigure({1, 1, 1, 1});
         const ExpectedFatal fatale;
-        comando(u"salva"_s);
+        corpo().type(u"serie_0"_s, u"256"_s); // not counted
+        QCOMPARE(errorOf([] { barra().setValue(2); }), int(runtime::Overflow));
+        QCOMPARE(corpo().text(u"note_0"_s), u"a"_s);
+        QCOMPARE(SchedaCorpo::comune().pagina().posizione, 1);
+        comando(u"salva"_s); // does not validate
         QCOMPARE(fatale.lastNumber, int(runtime::Overflow));
-        QCOMPARE(rows(u"SELECT * FROM schede"), QString());
     }
 
     void aCardSavedAsTemplateStaysOpenAndUnchanged() {

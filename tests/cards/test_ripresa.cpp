@@ -136,15 +136,6 @@ private Q_SLOTS:
         QTRY_COMPARE(fatale.count, 1);
         QVERIFY(sospesa().contains("prima dell’errore"));
     }
-
-    void rowsThatCouldNotMoveKeepTheirPlace() {
-        apriConFigure({1, 1, 1, 1});
-        const ExpectedFatal fatale;
-        corpo().type(u"recuperoMin_0"_s, u"256"_s); // beyond 8 bits: no row can be written
-        QCOMPARE(errorOf([] { barra().setValue(2); }), int(runtime::Overflow));
-        QCOMPARE(corpo().text(u"note_0"_s), u"a"_s);
-        QCOMPARE(SchedaCorpo::comune().pagina().posizione, 1);
-    }
 };
 
 QUIVERDECK_TEST(TestRipresa)

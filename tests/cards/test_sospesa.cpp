@@ -64,8 +64,8 @@ private Q_SLOTS:
             // keys that come next are the same.
             const QString tipo = isModello ? u"Modello"_s : QString();
             const auto archivio = [&] {
-                return rows(u"SELECT * FROM schede%1 WHERE id_scheda=5"_s.arg(tipo)) + u'\n' +
-                       rows(u"SELECT * FROM Esercizi%1 WHERE ID_Scheda=5"_s.arg(tipo));
+                return rows(u"SELECT * FROM schede%1 s JOIN Esercizi%1 e ON e.ID_Scheda = s.id_scheda "
+                            "WHERE s.id_scheda=5 ORDER BY ct"_s.arg(tipo));
             };
             const QString stava = archivio();
             for (const bool perse : {false, true}) {
@@ -109,19 +109,17 @@ private Q_SLOTS:
     }
 
     void deletedLinesAreKept() {
-        const auto carta = std::make_shared<scheda>();
+        const auto carta = esempio(false).scheda;
+        carta->esercizi->Add(std::make_shared<Esercizio>()); // an empty one is no loss
         RigheEliminate tolte;
-        // Read anew from the store the lines are other objects, and the same; an empty one is no loss.
-        for (const QList<int>& righe : {QList<int>{1, 2, 3, 0}, QList<int>{1, 3}, QList<int>{1, 3}}) {
-            carta->esercizi = std::make_shared<SchedaApribile::Esercizi>();
-            for (const int n : righe) {
-                addLines(*carta, {n});
-                carta->esercizi->Item(carta->esercizi->Count())->ct = n;
-            }
+        tolte.guarda(carta);
+        sql(u"DELETE FROM Esercizi WHERE ct=102");
+        for (int volta = 0; volta < 2; ++volta) { // read anew the lines are other objects, and the same
+            carta->caricaEsercizi();
             tolte.guarda(carta);
         }
         QCOMPARE(tolte.righe().size(), std::size_t{1});
-        QCOMPARE(tolte.righe().front().ct, 2);
+        QCOMPARE(tolte.righe().front().ct, 102);
         tolte.guarda(std::make_shared<scheda>());
         QVERIFY(tolte.righe().empty());
     }

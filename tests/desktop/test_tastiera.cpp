@@ -44,7 +44,7 @@ private Q_SLOTS:
             givePicture(program(), u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
         guida::file = program().folder() + u"/HELP.hlp"_s;
         writeFile(guida::file, "<!--pagina benvenuto|Benvenuti-->\n");
-        esercizio(nuovaScheda(), 1, 1);
+        nuovaScheda({1});
         variabiliGlobali::idSchedaSelezionata = 1;
         SchedeSelezione::comune().idUtenteLista = 1;
         SchedeSelezione::comune().fillList();

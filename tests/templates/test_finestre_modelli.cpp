@@ -2,7 +2,6 @@
 #include "core/variabiliGlobali.h"
 #include "support/WindowTest.h"
 #include "templates/SchedaIntestazioneMODELLO.h"
-#include "templates/SchedaModello.h"
 #include "templates/SchedeMODELLOSelezione.h"
 
 using namespace Qt::StringLiterals;
@@ -23,58 +22,52 @@ private Q_SLOTS:
         WindowTest::init();
         // Template 1, "Base", is supplied and of the first category.
         sql(u"INSERT INTO schedeModello VALUES (2,2,'beta',0,''),(3,2,'Alfa',0,''),(10,2,'Gamma',1,''),"
-            "(11,3,'Altro',0,'')");
+            "(11,3,'Altro',0,'');INSERT INTO categorie VALUES (0,'Zero')");
     }
 
-    void elencoPerCategoria() {
+    void elencoPerCategoriaEdEliminazione() {
         SchedeMODELLOSelezione::comune().show();
-        QCOMPARE(selezione().text(u"categoria"_s), u"Generale"_s); // the second entry
+        QCOMPARE(selezione().text(u"categoria"_s), u"Generale"_s); // the second by name
         QCOMPARE(elenco(), u"3|Alfa 2|beta 10|Gamma"_s);
         selezione().choose(u"categoria"_s, u"Recupero"_s);
         QCOMPARE(elenco(), u"11|Altro"_s);
         sql(u"INSERT INTO schedeModello VALUES (12,2,'Aiuto',0,'')");
         selezione().choose(u"categoria"_s, u"Generale"_s);
         QCOMPARE(elenco(), u"12|Aiuto 3|Alfa 2|beta 10|Gamma"_s); // read anew
-    }
-
-    void uscite() {
-        const auto scelto = [](int utente, const QString& tasto) {
-            idUtenteSelezionato = utente;
-            idModelloSelezionato = 0;
-            whenModal([&](toolkit::Form& form) {
-                const WindowPage pagina(form);
-                QCOMPARE(pagina.isEnabled(u"seleziona"_s), utente != 0); // for an athlete
-                QCOMPARE(pagina.isEnabled(u"nuova"_s), utente == 0);
-                QCOMPARE(pagina.isEnabled(u"modifica"_s), utente == 0);
-                pagina.clickLine(u"LW"_s, 1, tasto == u"LW"_s ? 2 : 1);
-                if (tasto != u"LW"_s)
-                    pagina.press(tasto);
-            });
-            SchedeMODELLOSelezione::comune().showModal();
-            return idModelloSelezionato;
-        };
-        QCOMPARE(scelto(1, u"seleziona"_s), 2);
-        QCOMPARE(scelto(0, u"modifica"_s), 2);
-        QCOMPARE(scelto(1, u"LW"_s), 2);
-        QCOMPARE(scelto(1, u"annulla"_s), -1);
-        QVERIFY(!SchedeMODELLOSelezione::esiste());
-    }
-
-    void eliminazione() {
-        SchedeMODELLOSelezione::comune().show();
-        selezione().clickLine(u"LW"_s, 2);
+        selezione().clickLine(u"LW"_s, 3);
         boxes().expect(Icon::Critical,
                        u"Impossibile eliminare la scheda perchè è una scheda preimpostata!"_s);
         selezione().press(u"elimina"_s);
-        selezione().clickLine(u"LW"_s, 1);
+        selezione().clickLine(u"LW"_s, 2);
         boxes().expect(Icon::Question, u"Confermi?"_s, Answer::No);
         selezione().press(u"elimina"_s);
-        QCOMPARE(elenco(), u"3|Alfa 2|beta 10|Gamma"_s);
+        QCOMPARE(selezione().list().count(), 4);
         boxes().expect(Icon::Question, u"Confermi?"_s, Answer::Yes);
         boxes().expect(Icon::Information, u"Scheda eliminata"_s);
         selezione().press(u"elimina"_s);
-        QCOMPARE(elenco(), u"3|Alfa 10|Gamma"_s);
-        QCOMPARE(rows(u"SELECT count(*) FROM schedeModello"), u"4"_s);
+        QCOMPARE(elenco(), u"12|Aiuto 3|Alfa 10|Gamma"_s);
+        QCOMPARE(rows(u"SELECT count(*) FROM schedeModello"), u"5"_s);
+    }
+
+    void uscite() {
+        // For an athlete one is chosen; without, they are managed.
+        for (const QString& uscita :
+             {u"seleziona 1 2"_s, u"modifica 0 2"_s, u"annulla 1 -1"_s, u"LW 1 2"_s}) {
+            const QStringList parti = uscita.split(u' ');
+            idUtenteSelezionato = parti[1].toInt();
+            whenModal([&](toolkit::Form& form) {
+                const WindowPage pagina(form);
+                for (const QString& tasto : {u"seleziona"_s, u"nuova"_s, u"modifica"_s})
+                    QCOMPARE(pagina.isEnabled(tasto),
+                             (tasto == u"seleziona"_s) == (idUtenteSelezionato != 0));
+                pagina.clickLine(u"LW"_s, 1, parti[0] == u"LW"_s ? 2 : 1);
+                if (parti[0] != u"LW"_s)
+                    pagina.press(parti[0]);
+            });
+            SchedeMODELLOSelezione::comune().showModal();
+            QCOMPARE(QString::number(idModelloSelezionato), parti[2]);
+            QVERIFY(!SchedeMODELLOSelezione::esiste());
+        }
     }
 
     void nuova() {
@@ -100,13 +93,12 @@ private Q_SLOTS:
         idModelloSelezionato = 3;
         mdiScheda::comune().mostra();
         const WindowPage pagina(SchedaIntestazioneMODELLO::comune());
-        const auto modello = std::dynamic_pointer_cast<SchedaModello>(mdiScheda::comune().schedaAperta);
         QCOMPARE(pagina.text(u"categoria"_s) + pagina.text(u"descrizione"_s), u"GeneraleAlfa"_s);
         pagina.type(u"descrizione"_s, u"Beta"_s);
-        pagina.type(u"note"_s, u"Fine"_s);
         pagina.choose(u"categoria"_s, u"Recupero"_s);
-        QCOMPARE(modello->categoria + modello->descrizione + modello->note, u"RecuperoBetaFine"_s);
-        QVERIFY(!modello->isSaved);
+        QVERIFY(!mdiScheda::comune().schedaAperta->isSaved);
+        mdiScheda::comune().schedaAperta->save();
+        QCOMPARE(rows(u"SELECT * FROM schedeModello WHERE id_Scheda=3"), u"3|3|Beta|0|"_s);
     }
 
     /// The dialog behind "Salva su nuovo Modello" was dismissed: the flow goes on with key 0.
