@@ -10,7 +10,7 @@ void EditorTest::init() {
     sql(u"INSERT INTO utenti VALUES (1,'Mario','Rossi',NULL,'M','')");
 }
 
-int EditorTest::nuovaScheda(std::initializer_list<int> figure) const {
+int EditorTest::nuovaScheda(const QList<int>& figure) const {
     sql(u"INSERT INTO schede (id_utente,Istruttore,PeriodoDal,PeriodoAl,id_cat,FreqAllen,GGAllen,Obiettivo,"
         "note) VALUES (1,'Anna','2026-11-02','2026-11-30',2,2,'001010100','Forza','Bere molto')");
     const int scheda = rows(u"SELECT max(id_scheda) FROM schede").toInt();
@@ -38,7 +38,7 @@ void EditorTest::apri(int utente, int scheda, int modello) {
     QVERIFY(QTest::qWaitForWindowActive(&mdiScheda::comune())); // else no field has the focus
 }
 
-int EditorTest::apriConFigure(std::initializer_list<int> figure) const {
+int EditorTest::apriConFigure(const QList<int>& figure) const {
     const int scheda = nuovaScheda(figure);
     apri(1, scheda, 0);
     return scheda;

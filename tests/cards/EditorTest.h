@@ -16,14 +16,14 @@ protected Q_SLOTS:
 protected:
     /// Adds a card of athlete 1, category 2, with the period of November 2026 and one exercise of each figure
     /// (0 makes it free), its notes "a", "b", …; its key comes back.
-    int nuovaScheda(std::initializer_list<int> figure) const;
+    int nuovaScheda(const QList<int>& figure) const;
     /// Adds the user's template 2, "Mio", with one line of figure 1.
     void nuovoModello() const;
 
     static void apri(int utente, int scheda, int modello);
     static void apriNuova() { apri(1, 0, 0); }
     /// The same, and opens it.
-    int apriConFigure(std::initializer_list<int> figure) const;
+    int apriConFigure(const QList<int>& figure) const;
 
     static SchedaApribile& aperta() { return *mdiScheda::comune().schedaAperta; }
     static ::scheda& schedaAperta() { return dynamic_cast<::scheda&>(aperta()); }

@@ -96,9 +96,7 @@ private Q_SLOTS:
 private:
     /// The preview of a new card with `exercises` lines.
     PrinterCanvas& open(int exercises) {
-        const int card = variabiliGlobali::idSchedaSelezionata = nuovaScheda();
-        for (int i = 1; i <= exercises; ++i)
-            esercizio(card, i, 1);
+        variabiliGlobali::idSchedaSelezionata = nuovaScheda(QList<int>(exercises, 1));
         PrinterCanvas::comune().show();
         return PrinterCanvas::comune();
     }
