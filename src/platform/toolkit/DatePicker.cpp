@@ -4,11 +4,29 @@
 #include "platform/runtime/Error.h"
 
 #include <QCalendarWidget>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QWheelEvent>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace toolkit {
+
+namespace {
+
+/// Two-digit years from here on belong to the twentieth century, as most desktops read them.
+constexpr int firstOfLastCentury = 30;
+
+bool isSeparator(const QString& text) {
+    return text.size() == 1 && u"/.- "_s.contains(text);
+}
+
+bool isDigit(const QString& text) {
+    return text.size() == 1 && text.front().isDigit();
+}
+
+} // namespace
 
 DatePicker::DatePicker(const QString& name, QWidget* parent) : QDateEdit(runtime::today(), parent) {
     setObjectName(name);
@@ -26,6 +44,59 @@ void DatePicker::setValue(QDate date) {
     if (!date.isValid() || date < minimumDate() || date > maximumDate())
         runtime::raise(runtime::InvalidPropertyValue, {}, objectName());
     setDate(date);
+}
+
+void DatePicker::keyPressEvent(QKeyEvent* event) {
+    const bool movedOn = std::exchange(movedOn_, false);
+    if (isSeparator(event->text())) {
+        if (movedOn)
+            return;
+        QKeyEvent slash(QEvent::KeyPress, Qt::Key_Slash, Qt::NoModifier, u"/"_s);
+        QDateEdit::keyPressEvent(&slash);
+    } else if (isDigit(event->text())) {
+        typeDigit(event);
+    } else {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            completeYear();
+        QDateEdit::keyPressEvent(event);
+    }
+}
+
+void DatePicker::typeDigit(QKeyEvent* event) {
+    const Section section = currentSection();
+    const int full = section == YearSection ? 4 : 2;
+    if (!lineEdit()->hasSelectedText() && sectionText(section).size() == full)
+        setSelectedSection(section); // a caret in a whole number: typing replaces it
+    if (date() != seen_ || (section == DaySection && lineEdit()->hasSelectedText()))
+        typedDay_ = 0;
+    if (section == DaySection)
+        typedDay_ = 10 * typedDay_ + event->text().toInt();
+    QDateEdit::keyPressEvent(event);
+    movedOn_ = currentSection() != section;
+    if (section != DaySection)
+        bringDayBack();
+    seen_ = date();
+}
+
+void DatePicker::bringDayBack() {
+    const QDate meant(date().year(), date().month(), typedDay_);
+    if (typedDay_ > date().day() && meant.isValid())
+        setDate(meant);
+}
+
+void DatePicker::completeYear() {
+    const QString year = sectionText(YearSection);
+    if (year.size() != 2)
+        return;
+    const int number = year.toInt();
+    const int meant = number + (number < firstOfLastCentury ? 2000 : 1900);
+    setDate(date().addYears(meant - date().year()));
+    bringDayBack();
+}
+
+void DatePicker::focusOutEvent(QFocusEvent* event) {
+    completeYear();
+    QDateEdit::focusOutEvent(event);
 }
 
 void DatePicker::wheelEvent(QWheelEvent* event) {

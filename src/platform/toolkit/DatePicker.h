@@ -6,6 +6,9 @@ namespace toolkit {
 
 /// A date as dd/MM/yyyy with an Italian calendar. Shows today at first. `changed` comes at once, also when
 /// the program sets another date.
+///
+/// It can be typed as people write it: with or without separators (/ . - or a blank), days and months of one
+/// digit, the year in two (30 to 99 of the last century), from wherever the caret stands.
 class DatePicker : public QDateEdit {
     Q_OBJECT
 public:
@@ -19,7 +22,19 @@ Q_SIGNALS:
     void changed();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void typeDigit(QKeyEvent* event);
+    /// The day as typed, once month and year allow it: a 29 February passes years that have none.
+    void bringDayBack();
+    void completeYear();
+
+    bool movedOn_ = false; ///< the last digit filled its part, and the next one is selected already
+    int typedDay_ = 0;     ///< 0 = none
+    QDate seen_;           ///< the date after the last digit; another one now was not typed
 };
 
 } // namespace toolkit
