@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWheelEvent>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +37,7 @@ DatePicker::DatePicker(const QString& name, QWidget* parent) : QDateEdit(runtime
     calendarWidget()->setFirstDayOfWeek(Qt::Monday);
     calendarWidget()->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     connect(this, &QDateEdit::dateChanged, this, &DatePicker::changed);
+    lineEdit()->installEventFilter(this);
 }
 
 void DatePicker::setValue(QDate date) {
@@ -46,11 +46,16 @@ void DatePicker::setValue(QDate date) {
     setDate(date);
 }
 
+bool DatePicker::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease && !lineEdit()->hasSelectedText())
+        setSelectedSection(currentSection());
+    return QDateEdit::eventFilter(watched, event);
+}
+
 void DatePicker::keyPressEvent(QKeyEvent* event) {
-    const bool movedOn = std::exchange(movedOn_, false);
     if (isSeparator(event->text())) {
-        if (movedOn)
-            return;
+        if (lineEdit()->hasSelectedText())
+            return; // nothing is typed here yet: the digits before have moved on by themselves
         QKeyEvent slash(QEvent::KeyPress, Qt::Key_Slash, Qt::NoModifier, u"/"_s);
         QDateEdit::keyPressEvent(&slash);
     } else if (isDigit(event->text())) {
@@ -72,7 +77,6 @@ void DatePicker::typeDigit(QKeyEvent* event) {
     if (section == DaySection)
         typedDay_ = 10 * typedDay_ + event->text().toInt();
     QDateEdit::keyPressEvent(event);
-    movedOn_ = currentSection() != section;
     if (section != DaySection)
         bringDayBack();
     seen_ = date();

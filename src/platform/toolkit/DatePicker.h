@@ -8,7 +8,8 @@ namespace toolkit {
 /// the program sets another date.
 ///
 /// It can be typed as people write it: with or without separators (/ . - or a blank), days and months of one
-/// digit, the year in two (30 to 99 of the last century), from wherever the caret stands.
+/// digit, the year in two (30 to 99 of the last century). A click marks the part under the pointer, and the
+/// next digit replaces it.
 class DatePicker : public QDateEdit {
     Q_OBJECT
 public:
@@ -17,6 +18,8 @@ public:
     QDate value() const { return date(); }
     /// Raises runtime::InvalidPropertyValue for an invalid date or one before 1753.
     void setValue(QDate date);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
     void changed();
@@ -32,9 +35,8 @@ private:
     void bringDayBack();
     void completeYear();
 
-    bool movedOn_ = false; ///< the last digit filled its part, and the next one is selected already
-    int typedDay_ = 0;     ///< 0 = none
-    QDate seen_;           ///< the date after the last digit; another one now was not typed
+    int typedDay_ = 0; ///< 0 = none
+    QDate seen_;       ///< the date after the last digit; another one now was not typed
 };
 
 } // namespace toolkit

@@ -29,6 +29,7 @@ private Q_SLOTS:
         QFETCH(const QString, keys);
         Form form(u"F"_s);
         auto* picker = new DatePicker(u"date"_s, form.client());
+        QLineEdit& text = *picker->findChild<QLineEdit*>();
         auto* other = new TextBox(u"other"_s, form.client());
         form.show();
         QTRY_VERIFY(form.isActiveWindow());
@@ -37,7 +38,8 @@ private Q_SLOTS:
             if (enter == u"tab")
                 picker->setFocus(Qt::TabFocusReason);
             else
-                QTest::mouseClick(picker->findChild<QLineEdit*>(), Qt::LeftButton, {}, {4, 8});
+                QTest::mouseClick(&text, Qt::LeftButton, {}, {4, 8});
+            QCOMPARE(text.selectedText(), u"23"_s);
             QTest::keyClicks(picker, keys);
             if (enter == u"return")
                 QTest::keyClick(picker, Qt::Key_Return);
