@@ -1,13 +1,12 @@
 #pragma once
 
+#include <QEvent>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
-#include <QWindow>
 
 #include <functional>
 #include <random>
-#include <vector>
 
 class QAbstractItemView;
 
@@ -30,42 +29,39 @@ private:
     std::mt19937 engine_;
 };
 
-/// An act that was chosen: where, what, and how to do it.
-struct Act {
-    QString window;
-    QString what;
-    std::function<void()> run;
-};
+/// On a window that still stands.
+void pressKey(const QPointer<QWidget>& window, QKeyCombination keys, const QString& text = {});
 
-void pressKey(QWindow* window, QKeyCombination keys, const QString& text = {});
-
-/// Chooses acts on the windows that take input. Nothing is done before `Act::run`.
+/// Acts at random on the windows that take input.
 class Hands {
 public:
-    explicit Hands(Dice& dice) : dice_(dice) {}
+    /// Hears of each act before it is done.
+    using Tell = std::function<void(const QWidget& control, const QString& what)>;
+    Hands(Dice& dice, Tell tell) : dice_(dice), tell_(std::move(tell)) {}
 
-    /// A random act on the window in front.
-    Act choose();
-    /// Drops what hangs on the pointer, mostly on a picture of an exercise.
-    Act drop();
+    /// A random act on the window in front; what hangs on the pointer is dropped. Nothing where nothing takes
+    /// the user's input.
+    void act();
     bool dragging() const { return dragging_; }
 
 private:
-    Act onPopup(QWidget& popup);
-    Act onWindow(QWidget& window);
-    Act onControl(QWidget& control);
-    Act onList(QAbstractItemView& list);
-    Act typeInto(QWidget& field);
-    Act key(QWidget& window, QKeyCombination keys);
-    Act wheel(QWidget& window);
-    Act resize(QWidget& window);
-    Act close(QWidget& window);
-    Act clickAt(QWidget& control, const QPoint& where, int times = 1);
-    Act dragFrom(QWidget& control, const QPoint& from, const QPoint& to);
+    void drop();
+    void steer(QWidget& popup);
+    void onWindow(QWidget& window);
+    void onControl(QWidget& control);
+    void onList(QAbstractItemView& list);
+    void typeInto(QWidget& field);
+    void key(QWidget& window, const QString& name);
+    void wheel(QWidget& window);
+    void resize(QWidget& window);
+    void click(QWidget& control, const QPoint& where, int times = 1);
+    void drag(QWidget& control, const QPoint& from, const QPoint& to);
     QPoint somewhereIn(const QWidget& control);
-    void mouse(QWidget& control, QEvent::Type type, const QPoint& where);
+    void press(const QPointer<QWidget>& control, const QPoint& where);
+    void mouse(const QPointer<QWidget>& control, QEvent::Type type, const QPoint& where);
 
     Dice& dice_;
+    Tell tell_;
     bool dragging_ = false;
     Qt::MouseButtons held_;
     int timestamp_ = 1000; ///< milliseconds; far enough apart that two clicks are no double click

@@ -1,10 +1,7 @@
 #include "monkey/Ends.h"
 
 #include "cards/SchedaApribile.h"
-#include "cards/SchedaCorpo.h"
-#include "cards/SchedaCorpo2.h"
 #include "cards/mdiScheda.h"
-#include "core/Principale.h"
 #include "platform/runtime/Conversions.h"
 #include "platform/runtime/Error.h"
 #include "platform/toolkit/ReportList.h"
@@ -21,36 +18,27 @@ namespace monkey {
 
 namespace {
 
-bool rowHolds(const QStringList& names, bool (*test)(const QString&)) {
-    if (!SchedaCorpo::esiste())
-        return false;
-    const auto fields = SchedaCorpo::comune().findChildren<toolkit::TextBox*>();
-    return std::any_of(fields.begin(), fields.end(), [&](const toolkit::TextBox* field) {
-        return names.contains(field->objectName().section(u'_', 0, 0)) && test(field->text());
-    });
-}
-
-bool beyond8Bits(const QString& text) {
-    const double number = runtime::leadingNumber(text);
-    return number < 0 || number > 255;
+/// Whether a field of the exercise pages bears one of the names and holds such a text. In the page of one
+/// exercise minutes and seconds stand in one field.
+bool fieldHolds(const QStringList& names, bool (*test)(const QString&)) {
+    QStringList texts;
+    for (const QWidget* widget : QApplication::allWidgets())
+        if (const auto* field = qobject_cast<const toolkit::TextBox*>(widget);
+            field != nullptr && names.contains(field->objectName().section(u'_', 0, 0)))
+            texts += field->text().split(u':');
+    return std::any_of(texts.begin(), texts.end(), test);
 }
 
 bool rowBeyond8Bits() {
-    return rowHolds({u"recuperoMin"_s, u"recuperoSec"_s, u"serie"_s}, beyond8Bits);
+    return fieldHolds({u"recuperoMin"_s, u"recuperoSec"_s, u"serie"_s, u"recupero"_s},
+                      [](const QString& text) {
+                          const double number = runtime::leadingNumber(text);
+                          return number < 0 || number > 255;
+                      });
 }
 
-/// The same in the page of one exercise, where minutes and seconds stand in one field.
-bool recoveryBeyond8Bits() {
-    if (!SchedaCorpo2::esiste())
-        return false;
-    const auto* field = SchedaCorpo2::comune().findChild<toolkit::TextBox*>(u"recupero"_s);
-    return field != nullptr &&
-           (beyond8Bits(field->text().section(u':', 0, 0)) || beyond8Bits(field->text().section(u':', 1)));
-}
-
-/// The seconds are no number.
 bool secondsUnreadable() {
-    return rowHolds({u"recuperoSec"_s}, [](const QString& text) {
+    return fieldHolds({u"recuperoSec"_s}, [](const QString& text) {
         bool number = false;
         QLocale::c().toDouble(text.trimmed(), &number);
         return !number;
@@ -82,28 +70,18 @@ bool nothingSelected() {
     return list != nullptr && !list->hasSelection();
 }
 
-struct End {
-    int number;
-    bool (*holds)();
-    const char* why;
-};
-
-// Every error that the program lets through on purpose, and what must be so when it comes.
-constexpr End ends[] = {
-    {runtime::Overflow, rowBeyond8Bits, "a row's number beyond 8 bits is an error, never wrapped"},
-    {runtime::Overflow, recoveryBeyond8Bits, "the same for the recovery of one exercise"},
-    {runtime::Overflow, timesBeyond16Bits, "times beyond 16 bits are an error"},
-    {runtime::TypeMismatch, secondsUnreadable,
-     "leaving the seconds empty or with letters pasted in fails their strict conversion"},
-    {runtime::ObjectNotSet, nothingSelected, "a command on the selected line, and none is selected"},
-};
-
 } // namespace
 
 QString reasonOf(int number) {
-    const auto* end = std::find_if(std::begin(ends), std::end(ends),
-                                   [number](const End& e) { return e.number == number && e.holds(); });
-    return end == std::end(ends) ? QString() : QString::fromLatin1(end->why);
+    if (number == runtime::Overflow && rowBeyond8Bits())
+        return u"a row's number beyond 8 bits is an error, never wrapped"_s;
+    if (number == runtime::Overflow && timesBeyond16Bits())
+        return u"times beyond 16 bits are an error"_s;
+    if (number == runtime::TypeMismatch && secondsUnreadable())
+        return u"leaving the seconds empty or with letters pasted in fails their strict conversion"_s;
+    if (number == runtime::ObjectNotSet && nothingSelected())
+        return u"a command on the selected line, and none is selected"_s;
+    return {};
 }
 
 } // namespace monkey
