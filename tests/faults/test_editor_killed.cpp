@@ -27,25 +27,19 @@ QStringList lines(const QJsonObject& shown) {
     return lines;
 }
 
+/// A button of a row, the list moved down or up by one screen, Salva; or, half of the time, a text.
 QStringList anyAct(std::mt19937& random, const QJsonObject& shown) {
-    const auto row = random() % 2;
-    const auto fields =
-        shown.keys().filter(QRegularExpression(u"/(note|note_.|peso_.|Obiettivo|Istruttore)$"_s));
-    switch (random() % 10) {
-    case 0:
-        return {u"press"_s, u"SchedaCorpo/InserisciEsecizio_%1"_s.arg(row)};
-    case 1:
-        return {u"press"_s, u"SchedaCorpo/EliminaEsercizio_%1"_s.arg(row)};
-    case 2: // as free text, or with a figure
-        return {u"press"_s, u"SchedaCorpo/TipoEsercizio_%1#tab:%2"_s.arg(row).arg(random() % 2)};
-    case 3: // down or up by one screen
-        return {u"press"_s, u"SchedaCorpo/VS#at:8,%1"_s.arg(random() % 3 ? 358 : 4)};
-    case 4:
-        return {u"press"_s, u"mdiScheda/salva"_s};
-    default:
-        return {u"write"_s, fields[static_cast<qsizetype>(random() % static_cast<unsigned>(fields.size()))],
-                u"è%1, "_s.arg(random(), 9).repeated(2)};
-    }
+    static const QRegularExpression texts(u"/(note|note_.|peso_.|Obiettivo|Istruttore)$"_s);
+    static const auto buttons = u"SchedaCorpo/InserisciEsecizio_%|SchedaCorpo/EliminaEsercizio_%|"
+                                "SchedaCorpo/TipoEsercizio_%#tab:0|SchedaCorpo/TipoEsercizio_%#tab:1|"
+                                "SchedaCorpo/VS#at:8,358|SchedaCorpo/VS#at:8,4|mdiScheda/salva"_s.split(u'|');
+    const QStringList fields = shown.keys().filter(texts);
+    const auto any = [&random](const QStringList& list) {
+        return list[static_cast<qsizetype>(random() % static_cast<unsigned>(list.size()))];
+    };
+    if (random() % 2 == 0)
+        return {u"press"_s, any(buttons).replace(u'%', QString::number(random() % 2))};
+    return {u"write"_s, any(fields), u"è%1, "_s.arg(random(), 9).repeated(2)};
 }
 
 } // namespace

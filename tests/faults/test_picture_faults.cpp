@@ -1,12 +1,12 @@
 #include "cards/mdiScheda.h"
 #include "core/Main.h"
 #include "core/variabiliGlobali.h"
-#include "faults/Faults.h"
 #include "figures/AreeCorpo.h"
 #include "figures/BodyMap.h"
 #include "platform/runtime/Error.h"
 #include "printing/PrinterCanvas.h"
 #include "printing/PrinterDaNonFare.h"
+#include "support/Files.h"
 #include "support/WindowTest.h"
 
 #include <QDirIterator>
@@ -24,20 +24,14 @@ private Q_SLOTS:
         QTest::addColumn<QString>("files"); // below images
         QTest::addColumn<Open>("open");
         QTest::newRow("start") << u"(Q|G)/0.*|FolderXP.*"_s << Open(&Main);
-        QTest::newRow("editor") << u"Q/001.*|BodyMap/corpo.*"_s << Open([] {
-            idUtenteSelezionato = idSchedaSelezionata = 1;
-            mdiScheda::comune().mostra();
-        });
+        QTest::newRow("editor") << u"Q/001.*|BodyMap/corpo.*"_s << Open([] { mdiScheda::comune().mostra(); });
         QTest::newRow("map") << u"BodyMap/Corpo_.*"_s << Open([] {
             BodyMap map(u"mappa"_s, nullptr);
             map.onLoad();
             for (const char* code : codiciMuscoli())
                 map.changeMuscle(QLatin1String(code));
         });
-        QTest::newRow("sheet") << u"Q/001.*|logo.*"_s << Open([] {
-            idSchedaSelezionata = 1;
-            PrinterCanvas::comune().show();
-        });
+        QTest::newRow("sheet") << u"Q/001.*|logo.*"_s << Open([] { PrinterCanvas::comune().show(); });
         QTest::newRow("warnings") << u"avvertenze/.*"_s << Open([] { PrinterDaNonFare::comune().show(); });
     }
     void eachIsNamed() {
@@ -60,13 +54,13 @@ private Q_SLOTS:
             paths += each.next();
         int met = 0;
         for (const QString& path : paths.filter(wanted)) {
-            const QByteArray good = faults::read(path);
+            const QByteArray good = readFile(path);
             const QByteArray bad[] = {
                 {}, QByteArray(good.size(), '\0'), "nessuna immagine", good.left(good.size() / 2)};
             for (int damage = -2; damage < 4; ++damage) { // the first two: gone, and a folder in its place
                 QVERIFY(QFile::remove(path) && (damage != -1 || QDir().mkdir(path)));
                 if (damage >= 0)
-                    faults::write(path, bad[damage]);
+                    writeFile(path, bad[damage]);
                 const QString error = errorsOf(open).join(u'\n');
                 // The sheet leaves out what it cannot show; half a picture may still be one.
                 const bool named = error.contains(QFileInfo(path).fileName(), Qt::CaseInsensitive);
@@ -75,7 +69,7 @@ private Q_SLOTS:
                          qPrintable(u"%1, damage %2: "_s.arg(path).arg(damage) + error));
                 met += named;
                 QDir().rmdir(path);
-                faults::write(path, good);
+                writeFile(path, good);
             }
         }
         QVERIFY(met > 0);
@@ -88,6 +82,7 @@ private:
         QStringList told;
         boxes().onUnexpected = [&told](const QString& text) { told += text; };
         const ExpectedFatal fatal;
+        idUtenteSelezionato = idSchedaSelezionata = 1;
         try {
             open();
             QCoreApplication::processEvents();
@@ -101,7 +96,6 @@ private:
         toolkit::Form::destroyAll();
         toolkit::Application::purge();
         inChiusura = false;
-        idUtenteSelezionato = idSchedaSelezionata = 0;
         return told;
     }
 };

@@ -6,8 +6,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QLocalServer>
 #include <QLocalSocket>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -27,26 +25,31 @@ struct Place {
 };
 
 QString textOf(const QWidget& widget) {
-    for (const char* property : {"text", "plainText", "currentText"}) {
+    for (const char* property : {"text", "plainText", "currentText"})
         if (const QVariant text = widget.property(property); text.isValid())
             return text.toString();
-    }
     return widget.windowTitle();
+}
+
+/// All that shows and bears that name, or stands in what bears it.
+QWidgetList showing(const QString& name) {
+    QWidgetList widgets = QApplication::allWidgets();
+    widgets.removeIf([&name](const QWidget* widget) {
+        const bool shows = widget->isVisible();
+        while (widget && widget->objectName() != name)
+            widget = widget->parentWidget();
+        return !shows || !widget;
+    });
+    return widgets;
 }
 
 /// The widget of that name that shows, in the modal window if there is one.
 QWidget* named(const QString& target) {
-    const QString window = target.section(u'/', 0, 0);
-    const QString name = target.section(u'/', -1);
     QWidget* best = nullptr;
-    for (QWidget* widget : QApplication::allWidgets()) {
-        const QWidget* up = widget;
-        while (up && up->objectName() != window)
-            up = up->parentWidget();
-        if (up && widget->isVisible() && widget->objectName() == name &&
+    for (QWidget* widget : showing(target.section(u'/', 0, 0)))
+        if (widget->objectName() == target.section(u'/', -1) &&
             (!best || widget->window() == QApplication::activeModalWidget()))
             best = widget;
-    }
     return best;
 }
 
@@ -55,12 +58,10 @@ Place itemOfMenu(const QString& name) {
     for (QWidget* widget : QApplication::allWidgets()) {
         auto* bar = qobject_cast<QMenuBar*>(widget);
         auto* menu = qobject_cast<QMenu*>(widget);
-        for (QAction* action : widget->actions()) {
-            const QString menuName = action->menu() ? action->menu()->objectName() : QString();
-            if ((bar || menu) && widget->isVisible() && (action->objectName() == name || menuName == name))
+        for (QAction* action : widget->isVisible() && (bar || menu) ? widget->actions() : QList<QAction*>())
+            if (action->objectName() == name || (action->menu() && action->menu()->objectName() == name))
                 return {widget, bar ? bar->actionGeometry(action) : menu->actionGeometry(action),
                         action->text(), action->isEnabled()};
-        }
     }
     return {};
 }
@@ -71,10 +72,8 @@ Place itemOf(QAbstractItemView& view, const QString& kind, const QString& value)
     const QModelIndex root = view.rootIndex();
     QModelIndex index = kind == u"row"_s ? model.index(value.toInt(), 0, root) : QModelIndex();
     for (int column = 0; column < model.columnCount(root) && !index.isValid(); ++column)
-        index = model
-                    .match(model.index(0, column, root), Qt::DisplayRole, value, 1,
-                           Qt::MatchFixedString | Qt::MatchRecursive | Qt::MatchCaseSensitive)
-                    .value(0);
+        index =
+            model.match(model.index(0, column, root), Qt::DisplayRole, value, 1, Qt::MatchRecursive).value(0);
     if (!index.isValid())
         return {};
     QRect rect = view.visualRect(index);
@@ -87,23 +86,18 @@ Place find(const QString& target) {
     QWidget* widget = named(target.section(u'#', 0, 0));
     if (!widget || qobject_cast<QMenu*>(widget)) // a menu is pressed where its title stands
         return itemOfMenu(target);
-    const QString part = target.section(u'#', 1);
-    const QString kind = part.section(u':', 0, 0);
-    const QString value = part.section(u':', 1);
+    const QString kind = target.section(u'#', 1).section(u':', 0, 0);
+    const QString value = target.section(u':', 1);
     if (kind == u"at"_s)
         return {widget, QRect(value.section(u',', 0, 0).toInt(), value.section(u',', 1).toInt(), 1, 1), {}};
     if (kind == u"button"_s) {
-        for (auto* button : widget->findChildren<QAbstractButton*>()) {
+        for (auto* button : widget->findChildren<QAbstractButton*>())
             if (button->isVisible() && button->text().remove(u'&') == value)
                 return {button, button->rect(), value};
-        }
         return {};
     }
-    if (kind == u"tab"_s) {
-        auto* tabs = qobject_cast<QTabBar*>(widget);
-        tabs = tabs ? tabs : widget->findChild<QTabBar*>();
-        return tabs ? Place{tabs, tabs->tabRect(value.toInt()), {}} : Place();
-    }
+    if (auto* tabs = qobject_cast<QTabBar*>(widget); tabs && kind == u"tab"_s)
+        return {tabs, tabs->tabRect(value.toInt()), {}};
     if (auto* view = qobject_cast<QAbstractItemView*>(widget); view && !kind.isEmpty())
         return itemOf(*view, kind, value);
     return {widget, widget->rect(), textOf(*widget)};
@@ -137,32 +131,27 @@ void click(const Place& place) {
 }
 
 void write(QWidget& widget, const QString& text) {
-    const auto key = [&widget](int code, Qt::KeyboardModifiers modifiers, const QString& typed) {
-        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease})
-            QCoreApplication::postEvent(&widget, new QKeyEvent(type, code, modifiers, typed));
+    const auto press = [&widget](int key, Qt::KeyboardModifiers modifiers, const QString& typed) {
+        QCoreApplication::postEvent(&widget, new QKeyEvent(QEvent::KeyPress, key, modifiers, typed));
     };
-    key(Qt::Key_End, qobject_cast<QLineEdit*>(&widget) ? Qt::NoModifier : Qt::ControlModifier, {});
+    press(Qt::Key_End, widget.inherits("QLineEdit") ? Qt::NoModifier : Qt::ControlModifier, {});
     for (const QChar c : text)
-        key(c.toUpper().unicode(), Qt::NoModifier, c);
+        press(c.toUpper().unicode(), Qt::NoModifier, c);
 }
 
-/// Parts of our controls, as the line of a combo box, have no name of ours and are left out.
+/// Each field by the name of its page and its own. Parts of our controls, as the line of a combo box, have no
+/// name of ours and are left out.
 QJsonObject texts(const QString& window) {
-    static const QRegularExpression foreign(u"^(qt_.*|client|area)?$"_s);
+    static const QRegularExpression foreign(u"^(qt_.*)?$"_s);
     QJsonObject found;
-    for (const QWidget* widget : QApplication::allWidgets()) {
+    for (const QWidget* widget : showing(window)) {
         const bool isField = widget->inherits("QLineEdit") || widget->inherits("QPlainTextEdit") ||
                              widget->inherits("QComboBox") || widget->inherits("QLabel");
-        if (!isField || !widget->isVisible() || foreign.match(widget->objectName()).hasMatch())
-            continue;
-        QStringList path;
-        const QWidget* up = widget;
-        for (; up && up->objectName() != window; up = up->parentWidget()) {
-            if (!foreign.match(up->objectName()).hasMatch())
-                path.prepend(up->objectName());
-        }
-        if (up)
-            found[path.join(u'/')] = textOf(*widget);
+        const QWidget* page = widget;
+        while (!page->isWindow() && !page->inherits("toolkit::Form"))
+            page = page->parentWidget();
+        if (isField && !foreign.match(widget->objectName()).hasMatch())
+            found[page->objectName() + u'/' + widget->objectName()] = textOf(*widget);
     }
     return found;
 }
@@ -181,17 +170,14 @@ QJsonObject answer(const QStringList& request) {
 } // namespace
 
 QObject* Hand::create(const QString& /*key*/, const QString& /*options*/) {
-    auto server = std::make_unique<QLocalServer>();
-    server->listen(qEnvironmentVariable("QUIVERDECK_HAND"));
-    connect(server.get(), &QLocalServer::newConnection, server.get(), [server = server.get()] {
-        QLocalSocket* caller = server->nextPendingConnection();
-        connect(caller, &QLocalSocket::readyRead, caller, [caller] {
-            while (caller->canReadLine()) {
-                const QStringList request = QString::fromUtf8(caller->readLine()).chopped(1).split(u'\t');
-                caller->write(QJsonDocument(answer(request)).toJson(QJsonDocument::Compact) + '\n');
-                caller->flush();
-            }
-        });
+    auto caller = std::make_unique<QLocalSocket>();
+    caller->connectToServer(qEnvironmentVariable("QUIVERDECK_HAND"));
+    connect(caller.get(), &QLocalSocket::readyRead, caller.get(), [caller = caller.get()] {
+        while (caller->canReadLine()) {
+            const QStringList request = QString::fromUtf8(caller->readLine()).chopped(1).split(u'\t');
+            caller->write(QJsonDocument(answer(request)).toJson(QJsonDocument::Compact) + '\n');
+            caller->flush();
+        }
     });
-    return server.release();
+    return caller.release();
 }

@@ -14,6 +14,6 @@ class Hand : public QGenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "hand.json")
 public:
-    /// Listens at the socket QUIVERDECK_HAND; a second program finds it taken and gets no hand.
+    /// Calls at the socket QUIVERDECK_HAND, where the test listens.
     QObject* create(const QString& key, const QString& options) override;
 };

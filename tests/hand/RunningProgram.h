@@ -1,44 +1,84 @@
 #pragma once
 
+#include <QDeadlineTimer>
+#include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
+#include <QThread>
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
 
 /// The real program in a process of its own, with a hand inside that tells and acts (see Hand, also for the
 /// targets). What does not come within a minute, or a program that is gone, throws std::runtime_error.
 class RunningProgram {
 public:
-    virtual ~RunningProgram();
-
     const QString executable;
     /// Runs in the new process before the program: limits and rights.
     std::function<void()> before;
 
-    void start();
+    void start() {
+        if (!server_.isListening() && !server_.listen(environment_.value(QStringLiteral("QUIVERDECK_HAND"))))
+            fail("no socket for the hand");
+        process_.setProcessEnvironment(environment_);
+        process_.setProcessChannelMode(QProcess::ForwardedChannels);
+        process_.setChildProcessModifier(before);
+        process_.setWorkingDirectory(QStringLiteral("/")); // the program finds its folder by itself
+        process_.start(executable, {});
+        if (!server_.waitForNewConnection(patience))
+            fail("the program is not reached");
+        hand_.reset(server_.nextPendingConnection());
+    }
     /// Ends it at once, as a power cut would; `start` starts another one.
-    void kill();
+    void kill() {
+        process_.kill();
+        waitForEnd();
+    }
     /// Waits for the end; gives the exit code, -1 for a crash.
-    int waitForEnd();
+    int waitForEnd() {
+        if (process_.state() != QProcess::NotRunning && !process_.waitForFinished(patience))
+            fail("the program does not end");
+        return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
+    }
 
     /// Asks the hand and waits for its answer, or for nothing.
-    QJsonObject ask(const QStringList& request, bool waits = true);
-
+    QJsonObject ask(const QStringList& request, bool waits = true) {
+        hand_->write(request.join(u'\t').toUtf8() + '\n');
+        hand_->waitForBytesWritten(patience);
+        while (waits && !hand_->canReadLine())
+            if (!hand_->waitForReadyRead(patience))
+                fail("the program does not answer: " + request.join(u' '));
+        return QJsonDocument::fromJson(hand_->readLine()).object();
+    }
     QJsonObject see(const QString& target) { return ask({QStringLiteral("see"), target}); }
     QJsonObject texts(const QString& window) { return ask({QStringLiteral("texts"), window}); }
     QString text(const QString& target) { return see(target)["text"].toString(); }
     bool shows(const QString& target) { return see(target)["shows"].toBool(); }
-    void until(const QString& what, const std::function<bool()>& condition);
+
+    static void until(const QString& what, const std::function<bool()>& condition) {
+        for (const QDeadlineTimer deadline(patience); !condition(); QThread::msleep(10))
+            if (deadline.hasExpired())
+                fail("waited in vain for " + what);
+    }
+    [[noreturn]] static void fail(const QString& what) { throw std::runtime_error(what.toStdString()); }
 
 protected:
     /// The environment names the hand's plug-in and its socket, QUIVERDECK_HAND.
-    RunningProgram(QString path, const QProcessEnvironment& environment);
-    [[noreturn]] virtual void fail(const QString& what);
+    RunningProgram(const QString& path, const QProcessEnvironment& environment)
+        : executable(path), environment_(environment) {}
+    ~RunningProgram() {
+        process_.kill();
+        process_.waitForFinished();
+    }
 
 private:
+    static constexpr int patience = 60000; // ms
+
     QProcessEnvironment environment_;
     QProcess process_;
-    QLocalSocket socket_;
+    QLocalServer server_;
+    std::unique_ptr<QLocalSocket> hand_;
 };

@@ -37,7 +37,7 @@ QVariant value(const QWidget& control) {
 
 QJsonObject seen() {
     static const QRegularExpression pages(u"^(SchedaIntestazione|SchedaCorpo$)"_s);
-    static const QRegularExpression named(u"^(?!qt_)."_s);
+    static const QRegularExpression named(u"^(?!qt_|VS$)."_s); // the rows tell where the list stands
     if (!mdiScheda::esiste() || !mdiScheda::comune().isVisible() || !mdiScheda::comune().schedaAperta)
         return {};
     const auto& editor = mdiScheda::comune();
