@@ -104,8 +104,6 @@ Place find(const QString& target) {
 }
 
 QJsonObject told(const Place& place) {
-    if (!place.widget)
-        return {{u"shows"_s, false}};
     const QWidget& widget = *place.widget;
     const QRect part(widget.mapToGlobal(place.part.topLeft()), place.part.size());
     const QPoint centre = part.center() * widget.devicePixelRatioF();
@@ -164,14 +162,19 @@ QJsonObject answer(const QStringList& request) {
         click(place);
     if (request[0] == u"write"_s && place.widget)
         write(*place.widget, request[2]);
-    return told(place);
+    return place.widget ? told(place) : QJsonObject();
 }
 
 } // namespace
 
 QObject* Hand::create(const QString& /*key*/, const QString& /*options*/) {
     auto caller = std::make_unique<QLocalSocket>();
-    caller->connectToServer(qEnvironmentVariable("QUIVERDECK_HAND"));
+    // Once events are handled: the application that only asks for the screens at first lives shorter than
+    // that.
+    const auto call = [caller = caller.get()] {
+        caller->connectToServer(qEnvironmentVariable("QUIVERDECK_HAND"));
+    };
+    QMetaObject::invokeMethod(caller.get(), call, Qt::QueuedConnection);
     connect(caller.get(), &QLocalSocket::readyRead, caller.get(), [caller = caller.get()] {
         while (caller->canReadLine()) {
             const QStringList request = QString::fromUtf8(caller->readLine()).chopped(1).split(u'\t');

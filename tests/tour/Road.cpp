@@ -1,9 +1,6 @@
 #include "Tour.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QImage>
-#include <QPainter>
 
 #include <cstdio>
 
@@ -27,14 +24,9 @@ const Stop stops[] = {
 /// The gym gives its name, and a logo by the file dialog; a new athlete comes.
 void enterNames(Tour& tour) {
     const QString logo = QDir::homePath() + u"/Il Cigno.JPG"_s;
-    QImage picture(380, 380, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0x1f6f8b), 60));
-    painter.setBrush(QColor(0xf4d35e));
-    painter.drawEllipse(QPoint(190, 190), 155, 155);
-    tour.check(picture.save(logo, "JPG", 92), u"a logo is drawn"_s);
+    Tour::run(
+        u"convert -size 380x380 xc:white -quality 92 -fill #f4d35e -stroke #1f6f8b -strokewidth 60 -draw"_s,
+        {u"circle 190,190 190,35"_s, logo});
     tour.menu(u"mnuQDK"_s, u"mnuQDKPersonalizza"_s, u"frmPersonalizza"_s, u"menu-programma"_s);
     tour.fill(u"frmPersonalizza/nome"_s, u"Palestra Il Cigno"_s);
     tour.fill(u"frmPersonalizza/responsabile"_s, u"Anna Però e figli"_s);
@@ -70,7 +62,7 @@ void writeCard(Tour& tour) {
     tour.shot(u"scheda-nuova"_s);
     tour.fill(u"SchedaIntestazione/Obiettivo"_s, u"Forza e tono dell'arto inferiore"_s);
     tour.fill(u"Istruttore"_s, u"Marta D'Amico"_s);
-    tour.check(!tour.text(u"Istruttore"_s).contains(u'\''), u"straight apostrophes are guarded"_s);
+    Tour::check(!tour.text(u"Istruttore"_s).contains(u'\''), u"straight apostrophes are guarded"_s);
     tour.click(u"apriGGAllen"_s);
     tour.click(u"GGAllen#row:2"_s);
     tour.shot(u"giorni"_s);
@@ -111,7 +103,7 @@ void loseRestoreAndSave(Tour& tour) {
     tour.reads(u"messageBox"_s, u"Ripristinare la scheda che era aperta"_s);
     tour.key(u"Return"_s, u"mdiScheda"_s);
     tour.until(u"the same card"_s, [&] { return tour.texts(u"mdiScheda"_s) == before; });
-    tour.check(!tour.shows(u"Principale"_s), u"the main window is away"_s);
+    Tour::check(!tour.shows(u"Principale"_s), u"the main window is away"_s);
 
     tour.click(u"TabStrip1#tab:0"_s);
     tour.click(u"twFolder#item:Elenco Completo"_s);
@@ -128,14 +120,14 @@ void print(Tour& tour) {
     tour.shot(u"anteprima-1"_s, {u"PrinterCanvas"_s});
     const int before = tour.where(u"canvas"_s)["y"].toInt();
     tour.drag(u"canvas#at:8,500"_s, 0, -60);
-    tour.check(tour.where(u"canvas"_s)["y"].toInt() < before, u"the hand drags the page"_s);
+    Tour::check(tour.where(u"canvas"_s)["y"].toInt() < before, u"the hand drags the page"_s);
     tour.shot(u"anteprima-trascinata"_s);
     tour.click(u"PagSucc"_s);
     tour.reads(u"info"_s, u"Pagina 2/2"_s);
     tour.shot(u"anteprima-2"_s);
     const QString pdf = tour.print(u"PrinterCanvas"_s, u"scheda"_s, u"finestra-di-stampa"_s);
-    tour.run(u"pdftoppm"_s, {u"-r"_s, u"96"_s, u"-png"_s, pdf, tour.pictures + u"/foglio"_s});
-    tour.check(QDir(tour.pictures).entryList({u"foglio-*"_s}).size() == 2, u"the PDF has two sheets"_s);
+    Tour::run(u"pdftoppm -r 96 -png"_s, {pdf, tour.pictures + u"/foglio"_s});
+    Tour::check(QDir(tour.pictures).entryList({u"foglio-*"_s}).size() == 2, u"the PDF has two sheets"_s);
     tour.go(u"PrinterCanvas/esci"_s, u"mdiScheda"_s);
 }
 
@@ -147,7 +139,7 @@ void leaveCard(Tour& tour, const QString& answer, const QString& picture = {}) {
 
 void findItAgain(Tour& tour) {
     leaveCard(tour, u"Sì"_s, u"fine"_s);
-    tour.run(u"timeout"_s, {u"60"_s, tour.executable}); // a second start ends, and well
+    Tour::run(u"timeout 60"_s, {tour.executable}); // a second start ends, and well
     tour.window(u"Principale"_s);
     chooseAthlete(tour, u"Principale/apri"_s, u"SchedeSelezione"_s);
     tour.shot(u"elenco-schede"_s, {u"SchedeSelezione"_s});
@@ -163,7 +155,8 @@ void useTemplates(Tour& tour) {
     chooseAthlete(tour, u"Principale/nuovaDaModello"_s, u"SchedeMODELLOSelezione"_s);
     tour.shot(u"modelli"_s, {u"SchedeMODELLOSelezione"_s});
     tour.go(u"SchedeMODELLOSelezione/seleziona"_s, u"mdiScheda"_s, u"scheda-da-modello"_s);
-    tour.check(!tour.text(u"status"_s).contains(u"totale: 00:00"_s), u"the template's exercises are there"_s);
+    Tour::check(!tour.text(u"status"_s).contains(u"totale: 00:00"_s),
+                u"the template's exercises are there"_s);
     tour.click(u"cmdZoom"_s);
     tour.where(u"SchedaPreviewFigura"_s);
     tour.shot(u"figura-ingrandita"_s);
@@ -208,7 +201,7 @@ void lookRound(Tour& tour) {
     }
     tour.key(u"alt+F4"_s, u"Principale"_s);
     tour.click(u"Principale/esci"_s);
-    tour.check(tour.waitForEnd() == EXIT_SUCCESS, u"the program ends well"_s);
+    Tour::check(tour.waitForEnd() == EXIT_SUCCESS, u"the program ends well"_s);
 }
 
 } // namespace
@@ -226,7 +219,7 @@ int main(int argc, char* argv[]) {
         for (const auto stage :
              {enterNames, writeCard, loseRestoreAndSave, print, findItAgain, useTemplates, lookRound})
             stage(tour);
-        tour.check(!QFile::exists(folder + u"/splash.ps.aperta"_s), u"no open card is left behind"_s);
+        Tour::check(!QFile::exists(folder + u"/splash.ps.aperta"_s), u"no open card is left behind"_s);
     } catch (const std::runtime_error& error) {
         std::fprintf(stderr, "The tour ends early: %s\n", error.what());
         return EXIT_FAILURE;

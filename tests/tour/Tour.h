@@ -2,48 +2,136 @@
 
 #include "hand/RunningProgram.h"
 
+#include <QDir>
+#include <QFileInfo>
+
+#include <utility>
+
 /// A traveller at the real program: a real pointer, real keys, and questions to the hand about where things
 /// are. Every act waits until its target is seen and can be used.
 class Tour : public RunningProgram {
 public:
-    /// `folder` is the program's folder, `pictures` takes the screenshots.
-    Tour(const QString& folder, QString pictures);
+    /// `folder` is the program's folder, `to` takes the screenshots.
+    Tour(const QString& folder, const QString& to)
+        : RunningProgram(folder + QStringLiteral("/quiverdeck"), QProcessEnvironment::systemEnvironment()),
+          pictures(to) {
+        QDir(pictures).mkpath(QStringLiteral("finestre"));
+    }
 
     const QString pictures;
 
     /// Where a target is, once it is there and does not move any more.
-    QJsonObject where(const QString& target);
-    void click(const QString& target);
+    QJsonObject where(const QString& target) {
+        QJsonObject place;
+        until(target, [&] { // two looks agree: a window manager moves what has just come up
+            const QJsonObject last = std::exchange(place, see(target));
+            return place == last && place["shows"].toBool();
+        });
+        return place;
+    }
+    void click(const QString& target) { drag(target, 0, 0); }
     /// Presses on `from`, moves in small steps, and lets go on `to`, or so many pixels away.
-    void drag(const QString& from, const QString& to);
-    void drag(const QString& from, int dx, int dy);
+    void drag(const QString& from, const QString& to) {
+        const QJsonObject start = where(from);
+        const QJsonObject end = where(to);
+        drag(from, end["x"].toInt() - start["x"].toInt(), end["y"].toInt() - start["y"].toInt());
+    }
+    void drag(const QString& from, int dx, int dy) {
+        constexpr int steps = 12; // the toolkit wants more than one
+        const QJsonObject start = where(from);
+        for (int step = 0; step <= steps && (step == 0 || dx != 0 || dy != 0); ++step) {
+            pointer(QStringLiteral("mousemove --sync %1 %2")
+                        .arg(start["x"].toInt() + dx * step / steps)
+                        .arg(start["y"].toInt() + dy * step / steps));
+            if (step == 0)
+                pointer(QStringLiteral("mousedown 1"));
+            else
+                see(from); // the program has taken the move
+        }
+        pointer(QStringLiteral("mouseup 1"));
+    }
     /// Clicks into a field, selects what stands there, and types.
-    void fill(const QString& target, const QString& text);
+    void fill(const QString& target, const QString& text) {
+        click(target);
+        until("the focus of " + target, [&] { return see(target)["focus"].toBool(); });
+        pointer(QStringLiteral("key ctrl+a type --delay 8"), {text});
+        reads(target, text.right(4));
+    }
 
     /// Waits until a target's text contains `text`.
-    void reads(const QString& target, const QString& text);
+    void reads(const QString& target, const QString& text) {
+        until(target + " to read " + text, [&] { return this->text(target).contains(text); });
+    }
     /// Waits until the window of that object name is the active one.
-    void window(const QString& name);
+    void window(const QString& name) {
+        until("the window " + name, [&] { return see(name)["active"].toBool(); });
+    }
     /// Clicks, waits for the window that comes, and takes its picture.
-    void go(const QString& target, const QString& name, const QString& picture = {});
-    /// The same by a menu, with a picture of that too.
-    void menu(const QString& title, const QString& item, const QString& name, const QString& picture);
+    void go(const QString& target, const QString& name, const QString& picture = {}) {
+        click(target);
+        window(name);
+        shot(picture);
+    }
+    /// The same by a menu, with a picture of that.
+    void menu(const QString& title, const QString& item, const QString& name, const QString& picture) {
+        click(title);
+        where(item);
+        shot(picture);
+        go(item, name);
+    }
     /// Presses keys and waits for a window.
-    void key(const QString& keys, const QString& name);
+    void key(const QString& keys, const QString& name) {
+        pointer("key " + keys);
+        window(name);
+    }
     /// Waits for a message box of that text and presses `button`.
-    void box(const QString& text, const QString& button, const QString& picture = {});
+    void box(const QString& said, const QString& button, const QString& picture = {}) {
+        const QString box = QStringLiteral("messageBox");
+        reads(box, said);
+        until("the box's focus", [&] { return see(box)["focus"].toBool(); });
+        shot(picture);
+        click(box + "#button:" + button);
+        until("the box to close", [&] { return !text(box).contains(said); });
+    }
     /// Prints from a window into a PDF beside the pictures; gives its path.
-    QString print(const QString& name, const QString& file, const QString& picture = {});
+    QString print(const QString& name, const QString& file, const QString& picture = {}) {
+        const QString pdf = QStringLiteral("%1/%2.pdf").arg(pictures, file);
+        go(name + "/Stampa", QStringLiteral("printerDialog"), picture);
+        reads(QStringLiteral("filename"), QStringLiteral(".pdf")); // is proposed
+        fill(QStringLiteral("filename"), pdf);
+        click(QStringLiteral("printerDialog#button:Stampa"));
+        until("the PDF", [&] { return QFileInfo(pdf).size() > 0; });
+        window(name);
+        return pdf;
+    }
 
     /// Keeps a picture of the screen, if it has a name, and of windows and pages alone as finestre/NAME.png.
-    void shot(const QString& name, const QStringList& portraits = {});
-    void check(bool holds, const QString& what);
-    /// Runs another program, which must succeed.
-    void run(const QString& program, const QStringList& arguments);
-
-protected:
-    [[noreturn]] void fail(const QString& what) override;
+    void shot(const QString& name, const QStringList& portraits = {}) {
+        if (name.isEmpty())
+            return;
+        QThread::msleep(150); // the server draws what the program has sent
+        const QString file =
+            QStringLiteral("%1/%2-%3.png").arg(pictures).arg(++shots_, 2, 10, QChar(u'0')).arg(name);
+        run("import -window root", {file});
+        for (const QString& page : portraits)
+            run("convert", {file, "-crop", see(page)["area"].toString(), "+repage",
+                            QStringLiteral("%1/finestre/%2.png").arg(pictures, page)});
+    }
+    static void check(bool holds, const QString& what) {
+        if (!holds)
+            fail("not so: " + what);
+    }
+    /// Runs another program, which must succeed; what holds blanks stands in `more`.
+    static void run(const QString& command, const QStringList& more = {}) {
+        QStringList words = command.split(u' ');
+        const QString program = words.takeFirst();
+        if (QProcess::execute(program, words + more) != 0)
+            fail(command + u' ' + more.join(u' '));
+    }
 
 private:
+    /// Moves pointer and keys.
+    static void pointer(const QString& words, const QStringList& more = {}) { run("xdotool " + words, more); }
+
     int shots_ = 0;
 };
