@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QList>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -68,6 +69,11 @@ bool Validation::refuses(QWidget* field) {
     if (checks_.value(field)())
         return false;
     field->setFocus(Qt::OtherFocusReason);
+    auto* text = qobject_cast<QLineEdit*>(field);
+    if (text == nullptr)
+        text = field->findChild<QLineEdit*>();
+    if (text != nullptr)
+        text->selectAll(); // what is typed next corrects the text instead of lengthening it
     return true;
 }
 

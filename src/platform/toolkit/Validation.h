@@ -10,8 +10,9 @@ namespace toolkit {
 
 /// Lets fields of a page keep the focus. When the focus would leave a field for another control of the same
 /// page (a press of the mouse on one, a turn of the wheel on a scroll bar, Tab, an access key), the field's
-/// check runs first; if it fails, having told the user, the focus stays and the other control does not act.
-/// Popups, boxes, other windows and toolbar buttons, which take no focus, ask no check.
+/// check runs first; if it fails, having told the user, the focus stays, the refused text is marked, and the
+/// other control does not act. Popups, boxes, other windows and toolbar buttons, which take no focus, ask no
+/// check.
 class Validation : public QObject {
     Q_OBJECT
 public:

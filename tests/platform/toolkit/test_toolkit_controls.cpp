@@ -196,6 +196,7 @@ private Q_SLOTS:
                 QCOMPARE(acted_, good || !asks ? way : way.section(u'|', 0, 0) + u'|');
                 QCOMPARE(asked_, asks ? 1 : 0);
                 QVERIFY(good || page.widget(u"serie"_s).hasFocus());
+                QCOMPARE(page.find<TextBox>(u"serie"_s).hasSelectedText(), asks && !good);
             }
         }
     }
