@@ -54,7 +54,7 @@ QString resolve(const QString& storedPath) {
     rest.replace(u'\\', u'/');
     if (!behindHome && storedPath.startsWith(u'/'))
         base = u"/"_s;
-    const QString exact = QDir::cleanPath(base + u'/' + rest);
+    QString exact = QDir::cleanPath(base + u'/' + rest);
     if (QFileInfo::exists(exact))
         return exact;
     QString found = QDir::cleanPath(base);

@@ -11,7 +11,7 @@ namespace host {
 
 namespace {
 
-constexpr qint64 largestFile = 64 * 1024 * 1024;
+constexpr qint64 largestFile = qint64{64} * 1024 * 1024;
 constexpr quint16 formatPcm = 1;
 constexpr unsigned latencyMicroseconds = 200000;
 
@@ -43,7 +43,7 @@ bool play(const Wave& wave) {
         snd_pcm_set_params(handle, format, SND_PCM_ACCESS_RW_INTERLEAVED, wave.channels, wave.rate, 1,
                            latencyMicroseconds) < 0)
         return false;
-    const qsizetype frameBytes = wave.channels * (wave.bitsPerSample / 8);
+    const qsizetype frameBytes = qsizetype{wave.channels} * (wave.bitsPerSample / 8);
     const char* at = wave.samples.constData();
     auto left = static_cast<snd_pcm_uframes_t>(wave.samples.size() / frameBytes);
     while (left > 0) {
@@ -80,7 +80,7 @@ std::optional<Wave> readWave(const QByteArray& bytes) {
             if (wave.channels == 0 || wave.rate == 0 || (wave.bitsPerSample != 8 && wave.bitsPerSample != 16))
                 return std::nullopt;
             wave.samples = bytes.mid(body, size); // a file cut short gives what it has
-            const qsizetype frame = wave.channels * (wave.bitsPerSample / 8);
+            const qsizetype frame = qsizetype{wave.channels} * (wave.bitsPerSample / 8);
             wave.samples.chop(wave.samples.size() % frame);
             return wave;
         }

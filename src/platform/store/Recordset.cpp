@@ -38,7 +38,7 @@ runtime::Variant plainValue(const Cell& cell) {
 
 runtime::Variant Field::Value() const {
     const auto* text = std::get_if<QString>(&cell_);
-    const runtime::Variant value = plainValue(cell_);
+    runtime::Variant value = plainValue(cell_);
     if (value.isNull())
         return value;
     switch (column_.type) {

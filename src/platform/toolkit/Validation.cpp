@@ -32,8 +32,8 @@ Validation::~Validation() {
     instances().removeAll(this);
 }
 
-void Validation::add(QWidget* field, std::function<bool()> check) {
-    checks_.insert(field, std::move(check));
+void Validation::add(QWidget* field, const std::function<bool()>& check) {
+    checks_.insert(field, check);
     connect(field, &QObject::destroyed, this, [this, field] { checks_.remove(field); });
 }
 

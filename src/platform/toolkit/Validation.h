@@ -21,7 +21,7 @@ public:
     ~Validation() override;
 
     /// `check` shows its message and gives false to keep the focus.
-    void add(QWidget* field, std::function<bool()> check);
+    void add(QWidget* field, const std::function<bool()>& check);
 
     /// Asked by the application before it delivers an event, ahead of any change of focus: true if a field
     /// keeps the focus and the event must not arrive.
