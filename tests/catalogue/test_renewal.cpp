@@ -7,30 +7,13 @@ using namespace Qt::StringLiterals;
 using catalogue::Database;
 using stores::texts;
 
-namespace {
-/// What is the user's: every value of the tables of the program's own, and of the templates up to a key.
-QString usersRows(const QString& path) {
-    Database store(path, Database::Mode::ReadOnly);
-    QString all;
-    for (const auto& from :
-         {u"utenti"_s, u"schede"_s, u"Esercizi"_s, u"palestra"_s, u"Parametri"_s,
-          u"schedeModello WHERE id_Scheda <= 3"_s, u"EserciziModello WHERE ID_Scheda <= 3"_s}) {
-        const QString columns = texts(store, u"SELECT group_concat('quote('||name||')', '||''|''||') "
-                                             "FROM pragma_table_info('%1')"_s.arg(from.section(u' ', 0, 0)));
-        all += texts(store, u"SELECT %1 FROM %2 ORDER BY 1"_s.arg(columns, from)) + u'\n';
-    }
-    return all;
-}
-} // namespace
-
 class TestRenewal : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() {
-        folder_ = std::make_unique<QTemporaryDir>();
-        store_ = folder_->filePath(u"splash.ps"_s);
-        fresh_ = folder_->filePath(u"fresh.ps"_s);
+        QFile::remove(store_);
+        QFile::remove(fresh_);
         build(store_, "1;Base\n",
               "Q001;1;QUIVR;1;Uno;QUA,GLU\nQ002;2;QUIVR;2;Due;PET\nQ009;9;QUIVR;9;Nove;TRA\n", {u"Primo"_s});
         build(fresh_, "1;Base\n2;Nuova\n",
@@ -52,9 +35,9 @@ UPDATE Parametri SET valore = 'altrove' WHERE parametro = 'PATH_MANUALE';
     }
 
     void theCatalogueIsRenewedAndTheUserKeepsEveryRow() {
-        const QString before = usersRows(store_);
+        const QString before = usersRows();
         QVERIFY(catalogue::renewStore(fresh_, store_));
-        QCOMPARE(usersRows(store_), before);
+        QCOMPARE(usersRows(), before);
         Database store(store_, Database::Mode::ReadOnly);
         // The figure that no longer ships stays for the cards that hold it.
         QCOMPARE(texts(store, u"SELECT id_fig||' '||numero FROM figure ORDER BY id_fig"_s),
@@ -75,14 +58,11 @@ UPDATE Parametri SET valore = 'altrove' WHERE parametro = 'PATH_MANUALE';
     }
 
     void aRefusalLeavesTheStoreUntouched() {
-        for (const auto& fault :
-             {u"locked by a writer"_s, u"other schema"_s, u"no store"_s, u"no catalogue"_s}) {
+        for (const auto& fault : {u"locked by a writer"_s, u"other schema"_s, u"no store"_s}) {
             if (fault == u"other schema")
                 Database(store_, Database::Mode::Existing).execute(u"PRAGMA user_version = 7"_s);
-            else if (fault == u"no store")
+            if (fault == u"no store")
                 writeFile(store_, "no database at all, but long enough to be read as one");
-            else if (fault == u"no catalogue")
-                QFile::remove(fresh_);
             const QByteArray before = readFile(store_);
             std::optional<Database> writer;
             if (fault == u"locked by a writer")
@@ -90,27 +70,40 @@ UPDATE Parametri SET valore = 'altrove' WHERE parametro = 'PATH_MANUALE';
             QVERIFY_THROWS_EXCEPTION(catalogue::Error, catalogue::renewStore(fresh_, store_));
             writer.reset();
             QCOMPARE(readFile(store_), before);
-            QCOMPARE(QDir(folder_->path()).entryList({u"splash.ps?*"_s}), QStringList());
+            QCOMPARE(QDir(folder_.path()).entryList({u"splash.ps?*"_s}), QStringList());
         }
     }
 
 private:
     /// A store of the real schema, muscles and machines, `figures` and one template for each title.
-    void build(const QString& path, const QByteArray& categories, const QByteArray& figures,
-               const QStringList& titles) const {
-        const QString folder = path + u".sources"_s;
+    static void build(const QString& path, const QByteArray& categories, const QByteArray& figures,
+                      const QStringList& titles) {
+        const QTemporaryDir folder;
         for (const QString& title : titles)
-            stores::makeSources(folder, title, u"Base"_s,
+            stores::makeSources(folder.path(), title, u"Base"_s,
                                 u"Q001;30s;30Hz;L;0:30;2;Combinata;;\n;;;;;;;;Acqua"_s);
-        writeFile(folder + u"/categorie.csv"_s, "id_cat;nome\n" + categories);
-        writeFile(folder + u"/figure.csv"_s, "codice;id_fig;ID_MAC;numero;nome;muscoli\n" + figures);
-        catalogue::buildStore({folder}, path);
-        QVERIFY(QDir(folder).removeRecursively());
+        writeFile(folder.filePath(u"categorie.csv"_s), "id_cat;nome\n" + categories);
+        writeFile(folder.filePath(u"figure.csv"_s), "codice;id_fig;ID_MAC;numero;nome;muscoli\n" + figures);
+        catalogue::buildStore({folder.path()}, path);
+    }
+    /// What is the user's: every value of the tables of the program's own, and of the templates up to a key.
+    QString usersRows() const {
+        Database store(store_, Database::Mode::ReadOnly);
+        QString all;
+        for (const auto& from :
+             {u"utenti"_s, u"schede"_s, u"Esercizi"_s, u"palestra"_s, u"Parametri"_s,
+              u"schedeModello WHERE id_Scheda <= 3"_s, u"EserciziModello WHERE ID_Scheda <= 3"_s}) {
+            const QString columns =
+                texts(store, u"SELECT group_concat('quote('||name||')', '||''|''||') "
+                             "FROM pragma_table_info('%1')"_s.arg(from.section(u' ', 0, 0)));
+            all += texts(store, u"SELECT %1 FROM %2 ORDER BY 1"_s.arg(columns, from)) + u'\n';
+        }
+        return all;
     }
 
-    std::unique_ptr<QTemporaryDir> folder_;
-    QString store_;
-    QString fresh_;
+    const QTemporaryDir folder_;
+    const QString store_ = folder_.filePath(u"splash.ps"_s);
+    const QString fresh_ = folder_.filePath(u"fresh.ps"_s);
 };
 
 QUIVERDECK_TEST(TestRenewal)

@@ -30,6 +30,9 @@ class TestTastiera : public EditorTest {
         window.show();
         QCOMPARE(namelessControls(window) + leapsOfTab(window) + cutTexts(window), QStringList());
         QVERIFY2(tabStops(window) >= stops, qPrintable(window.objectName()));
+        for (const auto* button : window.template findChildren<QAbstractButton*>())
+            if (button->isVisible() && (button->text().isEmpty() || qobject_cast<const QToolButton*>(button)))
+                QVERIFY2(!button->icon().isNull(), qPrintable(button->objectName()));
         const QString help = qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/help/pagine/%1.md"_s;
         auto pages = window.template findChildren<toolkit::Form*>() << &window;
         for (const toolkit::Form* page : pages)
