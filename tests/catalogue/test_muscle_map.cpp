@@ -13,9 +13,6 @@ using namespace Qt::StringLiterals;
 class TestMuscleMap : public QObject {
     Q_OBJECT
 
-    static QImage load(const QString& name) {
-        return QImage(QStringLiteral(QUIVERDECK_IMAGES "/BodyMap/") + name);
-    }
     /// A JPEG rings a little beside every edge; a mark is far beyond that.
     static bool differs(QRgb a, QRgb b) {
         return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b)) >
@@ -24,10 +21,11 @@ class TestMuscleMap : public QObject {
 
 private Q_SLOTS:
     void aMarkFillsItsAreasAndNothingElse() {
-        const QImage neutral = load(u"corpo.JPG"_s);
+        const QString file = QStringLiteral(QUIVERDECK_IMAGES "/BodyMap/%1.JPG");
+        const QImage neutral(file.arg(u"corpo"_s));
         QCOMPARE(neutral.size(), QSize(748, 796));
         for (const QByteArray code : codiciMuscoli()) {
-            const QImage picture = load(u"Corpo_%1.JPG"_s.arg(code));
+            const QImage picture(file.arg(u"Corpo_"_s + code));
             QCOMPARE(picture.size(), neutral.size());
             std::map<const AreaCorpo*, std::pair<int, int>> shares; // of each area's points: marked, all
             int marked = 0;

@@ -15,7 +15,6 @@ private Q_SLOTS:
         const QString path = folder_->filePath(u"splash.ps"_s);
         QVERIFY(QFile::copy(QStringLiteral(QUIVERDECK_STORE), path));
         store_ = std::make_unique<catalogue::Database>(path, catalogue::Database::Mode::Existing);
-        run(u"PRAGMA synchronous = OFF"_s);
     }
 
     void aKeyIsNeverHandedOutTwice() {
@@ -57,9 +56,7 @@ private Q_SLOTS:
     }
 
     void theCatalogueIsComplete() {
-        QStringList codes;
-        for (const char* code : codiciMuscoli())
-            codes += QString::fromLatin1(code);
+        const QStringList codes(codiciMuscoli().begin(), codiciMuscoli().end());
         QCOMPARE(texts(u"SELECT id_muscolo FROM muscoli ORDER BY 1"_s), codes.join(u", "_s));
         QCOMPARE(texts(u"SELECT ID_MAC||Caricata FROM Macchinari ORDER BY 1"_s), u"GLIDR1, QUIVR1"_s);
         QCOMPARE(texts(u"SELECT '['||nome||responsabile||logo||']' FROM palestra"_s), u"[]"_s);
@@ -84,7 +81,6 @@ private Q_SLOTS:
         faults += stores::rows( // no text breaks a statement that it is joined into
             *store_, u"SELECT 'SELECT '||c.name||' FROM '||t.name||' WHERE instr('||c.name||', char(39))' "
                      "FROM sqlite_master t, pragma_table_info(t.name) c WHERE t.type = 'table'"_s);
-        QVERIFY(faults.size() > 50);
         for (const QString& fault : faults)
             QCOMPARE(fault + texts(fault), fault);
     }

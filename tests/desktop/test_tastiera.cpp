@@ -18,6 +18,8 @@
 #include "templates/SchedeMODELLONuova.h"
 #include "templates/SchedeMODELLOSelezione.h"
 
+#include <QToolButton>
+
 using namespace Qt::StringLiterals;
 
 /// Every window by keyboard and by ear, with every text whole and a page of the guide.

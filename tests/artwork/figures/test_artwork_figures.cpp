@@ -11,79 +11,71 @@
 
 using namespace Qt::StringLiterals;
 using namespace figures;
-using namespace std::string_literals;
 
 class TestFigures : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void refuses() {
-        // Behind a sound pose: a change, and what the drawing says of it.
-        const char* const rows[][2] = {
-            {"", ""},
-            {"leg.left flex 60 knee 175", "knee.left"},
-            {"foot.left floor 120 10", "foot.left cannot reach"},
-            {"hand.left world 120 0 120", "hand.left cannot reach"},
-            {"pelvis -2 0 180\nleg.both flex 2", "floats"},
-            {"pelvis -2 0 95\nleg.both flex 2", "sinks"},
-            {"facing 0\npelvis 30 0 108\ntilt 30\nfoot.both plate 30 11", "column"},
-            {"foot.both plate 46 11", "beside the plate"},
-            {"with mat x -400", "leaves the frame"},
-            {"knee.left 1 0 0 4", "\"4\" is too much"},
-            {"with straps y 8\npelvis -16 0 70\ntilt 60\narm.both elev 40 plane 0", "strap would be"},
-            {"tilt steep", "pose:4: \"steep\" is not a number"},
-            {"second\nspine 100 0 0", "second position: spine bend"},
-        };
-        for (const auto& [change, message] : rows) {
-            std::string said;
+        const std::string sound = "facing 180\npelvis -2 0 110\nfoot.both plate 0 11\n";
+        // A change behind it, and what the drawing says of it.
+        for (const auto& [change, message] :
+             {std::pair("", "nothing"),
+              {"leg.left flex 60 knee 175", "knee.left"},
+              {"foot.left floor 120 10", "foot.left cannot reach"},
+              {"hand.left world 120 0 120", "hand.left cannot reach"},
+              {"pelvis -2 0 180\nleg.both flex 2", "floats"},
+              {"pelvis -2 0 95\nleg.both flex 2", "sinks"},
+              {"facing 0\npelvis 30 0 108\ntilt 30\nfoot.both plate 30 11", "column"},
+              {"foot.both plate 46 11", "beside the plate"},
+              {"with mat x -400", "leaves the frame"},
+              {"knee.left 1 0 0 4", "\"4\" is too much"},
+              {"with straps y 8\npelvis -16 0 70\ntilt 60\narm.both elev 40 plane 0", "strap would be"},
+              {"tilt steep", "pose:4: \"steep\" is not a number"},
+              {"second\nspine 100 0 0", "second position: spine bend"}}) {
+            std::string said = "nothing";
             try {
-                static_cast<void>(Composer::draw(
-                    PoseFile::parse("facing 180\npelvis -2 0 110\nfoot.both plate 0 11\n"s + change, "pose"),
-                    0, Composer::width, Composer::height, 1));
+                static_cast<void>(Composer::draw(PoseFile::parse(sound + change, "pose"), 0, Composer::width,
+                                                 Composer::height, 1));
             } catch (const PoseError& error) {
                 said = error.what();
             }
-            QVERIFY2(*message == '\0' ? said.empty() : said.find(message) != std::string::npos, said.c_str());
+            QVERIFY2(said.find(message) != std::string::npos, said.c_str());
         }
     }
 
     /// One for each row of the catalogue, and none twice.
     void picturesAreSoundAndDistinct() {
-        std::vector<std::pair<QString, QImage>> small;
+        std::vector<std::pair<QString, QImage>> small; // 48 x 45 points of grey
         const QDir folder(QStringLiteral(QUIVERDECK_IMAGES "/figure"));
         for (const Row& row : Catalogue::read(QUIVERDECK_CATALOGUE)) {
             const QFileInfo file(folder, QString::fromStdString(row.code) + u".JPG"_s);
-            QVERIFY2(file.exists() && file.size() <= Jpeg::heaviest, row.code.c_str());
-            const QImage image = QImage(file.filePath()).convertToFormat(QImage::Format_RGB32);
+            QVERIFY2(file.size() <= Jpeg::heaviest, row.code.c_str());
+            const QImage image(file.filePath());
             QCOMPARE(image.size(), QSize(Composer::width, Composer::height));
             QVERIFY(qGray(image.pixel(2, 2)) > 250); // white ground
-            small.emplace_back(file.fileName(), image.scaled(48, 45, {}, Qt::SmoothTransformation));
-            int dark = 0;
-            for (int at = 0; at < 48 * 45; ++at)
-                dark += qGray(small.back().second.pixel(at % 48, at / 48)) < 120;
-            QVERIFY2(dark > 20, row.code.c_str());
+            small.emplace_back(file.fileName(), image.scaled(48, 45, {}, Qt::SmoothTransformation)
+                                                    .convertToFormat(QImage::Format_Grayscale8));
+            const uchar* grey = small.back().second.constBits();
+            QVERIFY2(std::count_if(grey, grey + 48 * 45, [](uchar g) { return g < 120; }) > 20,
+                     row.code.c_str());
         }
         QCOMPARE(folder.entryList(QDir::Files).size(), static_cast<qsizetype>(small.size()));
         // Mean over the points that are not white in both.
         const auto difference = [](const QImage& a, const QImage& b) {
-            int sum = 0;
+            double sum = 0;
             int points = 1;
             for (int at = 0; at < 48 * 45; ++at) {
-                const QRgb p = a.pixel(at % 48, at / 48);
-                const QRgb q = b.pixel(at % 48, at / 48);
-                points += qGray(p) <= 250 || qGray(q) <= 250;
-                sum += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) +
-                       std::abs(qBlue(p) - qBlue(q));
+                sum += std::abs(a.constBits()[at] - b.constBits()[at]);
+                points += std::min(a.constBits()[at], b.constBits()[at]) <= 250;
             }
-            return sum / (3.0 * points);
+            return sum / points;
         };
-        for (auto one = small.begin(); one != small.end(); ++one) {
-            const QImage mirrored = one->second.mirrored(true, false);
-            for (auto other = one + 1; other != small.end(); ++other)
-                for (const QImage& look : {one->second, mirrored})
+        for (auto one = small.begin(); one != small.end(); ++one)
+            for (const QImage& look : {one->second, one->second.mirrored(true, false)})
+                for (auto other = one + 1; other != small.end(); ++other)
                     QVERIFY2(difference(look, other->second) > 5,
                              qPrintable(one->first + u" repeats "_s + other->first));
-        }
     }
 };
 
