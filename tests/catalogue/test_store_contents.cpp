@@ -18,10 +18,11 @@ private Q_SLOTS:
     }
 
     void aKeyIsNeverHandedOutTwice() {
-        for (const auto& row : {u"utenti id_utente"_s, u"schede id_scheda"_s, u"Esercizi ct"_s,
-                                u"schedeModello id_Scheda"_s, u"EserciziModello ct"_s}) {
-            const QString table = row.section(u' ', 0, 0);
-            const QString key = row.section(u' ', 1);
+        for (const auto& [table, key] : {std::pair(u"utenti"_s, u"id_utente"_s),
+                                         {u"schede"_s, u"id_scheda"_s},
+                                         {u"Esercizi"_s, u"ct"_s},
+                                         {u"schedeModello"_s, u"id_Scheda"_s},
+                                         {u"EserciziModello"_s, u"ct"_s}}) {
             run(u"INSERT INTO %1 (%2) VALUES (5000); DELETE FROM %1 WHERE %2 = 5000;"
                 "INSERT INTO %1 DEFAULT VALUES"_s.arg(table, key));
             QCOMPARE(store_->scalar(u"SELECT MAX(%2) FROM %1"_s.arg(table, key)), 5001);
@@ -29,11 +30,11 @@ private Q_SLOTS:
     }
 
     void aDeletedCardTakesItsExercisesAlone() {
-        for (const auto& pair : {u"schede Esercizi"_s, u"SCHEDEMODELLO esercizimodello"_s}) {
-            const QString exercises = pair.section(u' ', 1);
+        for (const auto& [cards, exercises] :
+             {std::pair(u"schede"_s, u"Esercizi"_s), {u"SCHEDEMODELLO"_s, u"esercizimodello"_s}}) {
             run(u"INSERT INTO %1 (id_scheda) VALUES (901), (902);"
                 "INSERT INTO %2 (id_scheda) VALUES (901), (901), (902);"
-                "DELETE FROM %1 WHERE id_scheda = 901"_s.arg(pair.section(u' ', 0, 0), exercises));
+                "DELETE FROM %1 WHERE id_scheda = 901"_s.arg(cards, exercises));
             QCOMPARE(texts(u"SELECT id_scheda FROM %1 WHERE id_scheda > 900"_s.arg(exercises)), u"902"_s);
         }
     }
@@ -68,7 +69,6 @@ private Q_SLOTS:
         QStringList faults{
             u"SELECT 1 FROM utenti UNION SELECT 1 FROM schede UNION SELECT 1 FROM Esercizi"_s,
             u"SELECT figura FROM figure WHERE figura NOT LIKE 'images\\figure\\____.JPG'"_s,
-            u"SELECT figura FROM figure GROUP BY 1 HAVING count(*) > 1"_s,
             u"SELECT id_muscolo FROM muscoli m WHERE 6 > (SELECT count(*) FROM vw_figure_muscoli v "
             "WHERE v.id_muscolo = m.id_muscolo AND ID_MAC = 'QUIVR')"_s,
             u"SELECT descrizione FROM schedeModello WHERE NOT preimpostata"_s,
@@ -88,13 +88,13 @@ private Q_SLOTS:
     void aWrongTemplateIsRefusedByLine() {
         const QString sources = folder_->filePath(u"data"_s);
         const QString target = folder_->filePath(u"prova.ps"_s);
-        for (const auto& line :
-             {u"Q999;30s;30Hz;L;0:30;2;Combinata;;n"_s, u"G001;30s;30Hz;L;0:30;2;Combinata;;n"_s,
-              u"Q001;31s;30Hz;L;0:30;2;Combinata;;n"_s, u"Q001;30s;45Hz;L;0:30;2;Combinata;;n"_s,
-              u"Q001;30s;30Hz;M;0:30;2;Combinata;;n"_s, u"Q001;30s;30Hz;L;0:30;2;combinata;;n"_s,
-              u"Q001;30s;30Hz;L;0:60;2;Combinata;;n"_s, u"Q001;30s;30Hz;L;30;2;Combinata;;n"_s,
-              u"Q001;30s;30Hz;L;0:30;100;Combinata;;n"_s, u"Q001;30s;30Hz;L;0:30;2;Combinata;;dell'anca"_s,
-              u";;;;;;;;"_s, u"Q001;30s;30Hz;L;0:30;2;Combinata"_s}) {
+        // Each change makes a sound line wrong.
+        for (const auto& change :
+             {u"Q001>Q999"_s, u"Q001>G001"_s, u"30s>31s"_s, u"30Hz>45Hz"_s, u"L>M"_s, u"Comb>comb"_s,
+              u"0:30>0:60"_s, u"0:30>30"_s, u";2;>;100;"_s, u";n>;dell'anca"_s,
+              u"Q001;30s;30Hz;L;0:30;2;Combinata;;n>;;;;;;;;"_s, u";;n>"_s}) {
+            QString line = u"Q001;30s;30Hz;L;0:30;2;Combinata;;n"_s;
+            line.replace(change.section(u'>', 0, 0), change.section(u'>', 1));
             stores::makeSources(sources, u"prova"_s, u"Tonificazione"_s, line);
             try {
                 catalogue::buildStore({sources}, target);
