@@ -49,7 +49,6 @@ private Q_SLOTS:
         QCOMPARE(open().text(u"nome"_s), u"L`Arena"_s);
         open().type(u"nome"_s, {}); // nothing is mandatory
         open().press(u"cmdOK"_s);
-        QVERIFY(!frmPersonalizza::esiste());
         QCOMPARE(rows(u"SELECT * FROM palestra"), u"|Ugo|"_s);
         sql(u"DELETE FROM palestra; CREATE TRIGGER t BEFORE INSERT ON palestra "
             "BEGIN SELECT RAISE(ABORT,'no'); END");
@@ -64,7 +63,6 @@ private Q_SLOTS:
                  {u"a\\b;c%20.bmp"_s, {40, 20}, {190, 164, 40, 20}}}) { // never enlarged
             choose(draw(name, size));
             QCOMPARE(logo().geometry(), shown);
-            QVERIFY(!open().isVisible(u"noImage"_s));
             const QString stored = host::joined(u"\\images\\"_s + QString(name).replace(u'\\', u'_'));
             QCOMPARE(logo().Tag, stored);
             QCOMPARE(QImage(host::resolve(stored)).size(), size);

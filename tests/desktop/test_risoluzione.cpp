@@ -1,5 +1,4 @@
 #include "core/variabiliGlobali.h"
-#include "desktop/MonitorResolution.h"
 #include "desktop/ResolutionConfirm.h"
 #include "desktop/controllaRisoluzione.h"
 #include "support/FakeDisplay.h"
@@ -61,13 +60,6 @@ private Q_SLOTS:
                 QCOMPARE(seconds, u"15 14 13 12 11 10 9 8 7 6 5 4 3 2 1 0 0 "_s);
             QVERIFY(boxes().satisfied());
         }
-    }
-
-    void withoutADisplay() {
-        ModoVideo modo{1, 2, 3};
-        MonitorResolution().leggiRisoluzione(modo);
-        QCOMPARE(modo.larghezza, 0);
-        QVERIFY(!MonitorResolution().impostaRisoluzione({1024, 768, 24}));
     }
 };
 

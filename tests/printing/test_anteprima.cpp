@@ -25,21 +25,33 @@ private Q_SLOTS:
         QCOMPARE(errorOf([] { misuraAnteprima(100, 100, 0, 255, 11340, 33000); }), 6);
     }
 
-    void pagingStopsAtBothEnds() {
+    void dragsAndPages() {
         const WindowPage form(open(11));
-        auto& bar = form.find<toolkit::ScrollBar>(u"VScroll1"_s);
+        const auto& bar = form.find<toolkit::ScrollBar>(u"VScroll1"_s);
         form.press(u"PagPrec"_s);
         QCOMPARE(shown(), u"Pagina 1/2"_s);
-        bar.setValue(bar.maximum());
-        QVERIFY2(form.widget(u"canvas"_s).y() < 0, "the page follows the bar");
-        const int left = form.widget(u"canvas"_s).x();
+        QWidget& canvas = form.widget(u"canvas"_s);
+        FakeCursor cursor;
+        // The hand drags bare paper; the athlete's name is inert.
+        for (const auto& [from, scrolled] : {std::pair(QPoint(150, 25), 0), {QPoint(10, 1000), 400}}) {
+            for (const int y : {500, 490, 2000, -2000}) { // 10 pixels up are 400 twips on; beyond: dropped
+                cursor.at = QPoint(0, y);
+                QMouseEvent event(QEvent::MouseMove, from, canvas.mapToGlobal(from), Qt::NoButton,
+                                  y == 500 ? Qt::NoButton : Qt::LeftButton, {});
+                QCoreApplication::sendEvent(&canvas, &event);
+                if (y == 500)
+                    QTest::mousePress(&canvas, Qt::LeftButton, {}, from);
+            }
+            QTest::mouseRelease(&canvas, Qt::LeftButton, {}, from);
+            QCOMPARE(bar.value(), scrolled);
+        }
+        QVERIFY2(canvas.y() < 0, "the page follows the bar");
+        const int left = canvas.x();
         for (int press = 0; press < 2; ++press) {
             form.press(u"PagSucc"_s);
             QCOMPARE(shown(), u"Pagina 2/2"_s);
-            QCOMPARE(form.widget(u"canvas"_s).pos(), QPoint(left, 0));
+            QCOMPARE(canvas.pos(), QPoint(left, 0));
         }
-        form.press(u"esci"_s);
-        QVERIFY(!PrinterCanvas::esiste());
     }
 
     void printing() {
@@ -55,7 +67,6 @@ private Q_SLOTS:
         printer.pdf = program().folder() + u"/manca/scheda.pdf"_s;
         boxes().expectBeginning(Icon::None, u"La stampa non è riuscita"_s);
         form.press(u"Stampa"_s);
-        QCOMPARE(printer.calls, 2);
         QCOMPARE(printer.asked.maximum, 2);
         QCOMPARE(printer.asked.proposedFile, u"Rossi Mario 02.11.2026-30.11.2026.pdf"_s);
         printer.pdf = program().folder() + u"/scheda d’allenamento.pdf"_s;
@@ -69,28 +80,6 @@ private Q_SLOTS:
             QCOMPARE(QString::fromLatin1(readFile(printer.pdf)).count(page), sheets);
             QCOMPARE(shown(), u"Pagina %1/2"_s.arg(last)); // the sheet that stays on show
         }
-    }
-
-    void theHandDragsThePage() {
-        FakeCursor cursor;
-        const WindowPage form(open(4));
-        QWidget& canvas = form.widget(u"canvas"_s);
-        const auto& bar = form.find<toolkit::ScrollBar>(u"VScroll1"_s);
-        const auto drag = [&](QPoint from, Qt::MouseButton button) {
-            for (const int y : {500, 490, 2000, -2000}) { // 10 pixels up are 400 twips on; beyond: dropped
-                cursor.at = QPoint(0, y);
-                QMouseEvent event(QEvent::MouseMove, from, canvas.mapToGlobal(from), Qt::NoButton,
-                                  y == 500 ? Qt::NoButton : button, {});
-                QCoreApplication::sendEvent(&canvas, &event);
-                if (y == 500)
-                    QTest::mousePress(&canvas, button, {}, from);
-            }
-            QTest::mouseRelease(&canvas, button, {}, from);
-            return bar.value();
-        };
-        QCOMPARE(drag({150, 25}, Qt::LeftButton), 0); // the athlete's name is inert
-        QCOMPARE(drag({10, 1000}, Qt::RightButton), 0);
-        QCOMPARE(drag({10, 1000}, Qt::LeftButton), 400); // bare paper
     }
 
 private:

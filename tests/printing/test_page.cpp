@@ -9,8 +9,7 @@
 #include <numeric>
 
 using namespace Qt::StringLiterals;
-using sheet::Element;
-using sheet::FittedText;
+using namespace sheet;
 
 class TestPage : public SheetTest {
     Q_OBJECT
@@ -25,8 +24,7 @@ private Q_SLOTS:
                                 u"linea2 550 14876"_s, u"piepagina 4582.5 15366"_s,
                                 u"LogoZentara 9297.5 14961"_s, u"logoQD 610.3 15181"_s}) {
             const Element& e = window.surface.element(row.section(u' ', 0, 0));
-            QVERIFY2(e.visible, qPrintable(row));
-            QCOMPARE(u"%1 %2 %3"_s.arg(e.name).arg(e.left).arg(e.top), row);
+            QCOMPARE(u"%1 %2 %3"_s.arg(e.visible ? e.name : QString()).arg(e.left).arg(e.top), row);
         }
         QCOMPARE(el("utente").text + el("Istruttore").text + el("Periodo").text,
                  u"D’Angelo NiccolòBianchi Zoë01/03/2026 - 22/03/2026"_s);
@@ -58,10 +56,6 @@ private Q_SLOTS:
             QCOMPARE(el("NoteFinali").rect().topLeft(), QPointF(510, 13778.1));
             QCOMPARE(fitted.isCut(), cut);
             QVERIFY(fitted.bounds().bottom() < el("linea2").top);
-        }
-        for (Page none : {page(10, false, field), page(10)}) {
-            none.setCanvas(window);
-            QVERIFY(!el("NoteFinali").visible);
         }
     }
 
@@ -103,6 +97,7 @@ private Q_SLOTS:
                   right}}) {
             sheet.setCanvas(window);
             const int count = sheet.esercizi.Count();
+            QCOMPARE(el("NoteFinali").visible, sheet.isLastPage && !sheet.scheda->note.isEmpty());
             for (int k = 0; k < 10; ++k) {
                 const Element& frame = el("cornice", k);
                 QVERIFY(frame.visible == (k < count) && el("figura", k).visible == frame.visible);
@@ -135,7 +130,7 @@ private Q_SLOTS:
         const QRectF frame = el("cornice", 2).rect();
         QCOMPARE(el("nprog", 2).text + el("note", 2).text, u"13"_s + text);
         QCOMPARE(el("note", 2).rect(), QRectF(frame.left() + 150, frame.top() + 405, 4875, 1875));
-        for (const QString& name : sheet::elementiDelBlocco())
+        for (const QString& name : elementiDelBlocco())
             QCOMPARE(window.surface.element(name, 2).visible, name == u"note" || name == u"nprog");
         const FittedText fitted(el("note", 2));
         QVERIFY(fitted.isCut() && el("cornice", 2).visible && frame.contains(fitted.bounds()));
@@ -163,30 +158,14 @@ private Q_SLOTS:
         }
         for (const int visited : {2, 3, 0, 1, 2, 1, 0, 3, 0})
             QCOMPARE(shown(sheets[visited]), alone.at(visited));
-        Page four = page(4, true, notes);
-        sheets[2].esercizi.Add(exercise(4)); // neither does what the same sheet held before
-        QCOMPARE(shown(sheets[2]), shown(four));
     }
 
-    void fixedTextsFit() {
-        Page full = page(10, true, u"Note"_s);
-        full.scheda->GGAllen = u"001111111"_s;
-        for (const auto& e : full.esercizi) {
-            e->nprog += 9;
-            e->serie = 255;
-            e->recuperoMin = 59;
-        }
-        full.setCanvas(window);
-        QCOMPARE(illFitting(window.surface, 1, 0.85), QStringList());
-    }
-
-    void rasterReducedIsThePreview() {
+    void aFullSheetFitsAndPrintsAsItShows() {
         // The greatest difference of grey between squares of 12 logical pixels. A line of text that is
         // shifted or broken elsewhere shows, the grain of antialiasing does not.
         const auto difference = [this](const QImage& preview, int ratio) {
             const QImage one = preview.scaled(64, 88, {}, Qt::SmoothTransformation);
-            const QImage other =
-                sheet::raster(window.surface, ratio).scaled(64, 88, {}, Qt::SmoothTransformation);
+            const QImage other = raster(window.surface, ratio).scaled(64, 88, {}, Qt::SmoothTransformation);
             int most = 0;
             for (int at = 0; at < 64 * 88; ++at)
                 most = std::max(most, std::abs(qGray(one.pixel(at % 64, at / 64)) -
@@ -194,9 +173,16 @@ private Q_SLOTS:
             return most;
         };
         Page full = page(9, true, u"Bere molto. "_s.repeated(40));
+        full.scheda->GGAllen = u"001111111"_s;
         full.esercizi.Add(exercise(10, u"Perché no? Corsa, bicicletta e così via. "_s.repeated(6)));
+        for (const auto& e : full.esercizi) {
+            e->nprog += 9;
+            e->serie = 255;
+            e->recuperoMin = 59;
+        }
         full.setCanvas(window);
-        const QImage preview = sheet::raster(window.surface, 1);
+        QCOMPARE(illFitting(window.surface, 1, 0.85), QStringList());
+        const QImage preview = raster(window.surface, 1);
         for (const int ratio : {2, 4})
             QVERIFY(difference(preview, ratio) < 14);
         el("NoteFinali").width -= 300; // the measure does see a page on which one line is broken elsewhere
@@ -226,8 +212,6 @@ private Q_SLOTS:
         }
         job.PreviewPage(2);
         QCOMPARE(window.firstPanel + el("piepagina").text + el("nprog").text, u"Pagina 2/2Pagina 2/211"_s);
-        QCOMPARE(errorOf([&] { job.PreviewPage(3); }), int(runtime::SubscriptOutOfRange));
-        QCOMPARE(int(job.currentPage), 2);
     }
 };
 

