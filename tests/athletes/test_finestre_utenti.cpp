@@ -37,12 +37,11 @@ private Q_SLOTS:
 
     void deleting() {
         sql(u"INSERT INTO schede (id_utente,id_cat) VALUES (2,1),(2,1),(3,1)"_s);
-        const QString question = u"Sei sicuro di cancellare l'atleta? Verranno cancellate"_s;
         const FormPage page = open(u"MODIFICA"_s);
         page.list().select(1);
-        boxes().expectBeginning(Icon::Critical, question, Answer::No);
+        boxes().expectBeginning(Icon::Critical, u"Sei sicuro di cancellare l'atleta?"_s, Answer::No);
         page.press(u"elimina"_s);
-        boxes().expectBeginning(Icon::Critical, question, Answer::Yes);
+        boxes().expectBeginning(Icon::Critical, u"Sei sicuro di cancellare l'atleta?"_s, Answer::Yes);
         boxes().expect(Icon::Information, u"Utente e schede eliminati"_s);
         page.press(u"elimina"_s);
         QCOMPARE(page.lines(), QStringList({u"1|Rossi|Élia|09/05/1970"_s, u"3|bianchi|Ugo|31/12/1969"_s}));

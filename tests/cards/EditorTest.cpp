@@ -14,14 +14,10 @@ int EditorTest::nuovaScheda(const QList<int>& figure) const {
     sql(u"INSERT INTO schede (id_utente,Istruttore,PeriodoDal,PeriodoAl,id_cat,FreqAllen,GGAllen,Obiettivo,"
         "note) VALUES (1,'Anna','2026-11-02','2026-11-30',2,2,'001010100','Forza','Bere molto')");
     const int scheda = rows(u"SELECT max(id_scheda) FROM schede").toInt();
-    int posizione = 0;
-    for (const int figura : figure) {
-        ++posizione;
-        sql(u"INSERT INTO Esercizi VALUES (NULL,%1,%2,%3,'45s','40Hz','H',1,20,3,'Combinata','5 kg',%3=0,"
-            "char(96+%1))"_s.arg(posizione)
-                .arg(scheda)
-                .arg(figura));
-    }
+    const auto riga = u"INSERT INTO Esercizi VALUES (NULL,1+%1,%2,%3,'45s','40Hz','H',1,20,3,'Combinata',"
+                      "'5 kg',%3=0,char(97+%1))"_s;
+    for (qsizetype i = 0; i < figure.size(); ++i)
+        sql(riga.arg(i).arg(scheda).arg(figure[i]));
     return scheda;
 }
 

@@ -4,9 +4,6 @@
 #include "platform/toolkit/PictureBox.h"
 
 #include <QClipboard>
-#include <QDateEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -29,7 +26,7 @@ private Q_SLOTS:
     void eachFieldGoesStraightToTheCard() {
         apriConFigure({});
         const WindowPage pagina = intestazione();
-        auto& giorni = pagina.find<QListWidget>(u"GGAllen"_s);
+        auto& giorni = pagina.find<toolkit::CheckListBox>(u"GGAllen"_s);
         QCOMPARE(pagina.text(u"utente"_s), u"Rossi Mario"_s);
         const QString prima = rows(u"SELECT * FROM schede");
         salva();
@@ -38,9 +35,10 @@ private Q_SLOTS:
         pagina.type(u"categoria"_s, u"Forza"_s); // the text of an item, typed: no choice
         pagina.type(u"Istruttore"_s, u"D'Amico"_s);
         pagina.type(u"Obiettivo"_s, u"l'arto"_s);
-        pagina.type(u"note"_s, u"po'"_s);                           // escaped by the record
-        pagina.find<QDateEdit>(u"al"_s).setDate(QDate(2026, 1, 1)); // before the start: not looked at
-        pagina.find<QDateEdit>(u"dal"_s).setDate(QDate(2026, 12, 1));
+        pagina.type(u"note"_s, u"po'"_s); // escaped by the record
+        pagina.find<toolkit::DatePicker>(u"al"_s).setDate(
+            QDate(2026, 1, 1)); // before the start: not looked at
+        pagina.find<toolkit::DatePicker>(u"dal"_s).setDate(QDate(2026, 12, 1));
         pagina.press(u"apriGGAllen"_s);
         for (const int giorno : {0, 2}) // daily beside weekdays: both stay
             QTest::mouseClick(giorni.viewport(), Qt::LeftButton, {},
@@ -57,7 +55,7 @@ private Q_SLOTS:
     // One more would make the save fail, and the card would be lost.
     void notesStopAtWhatTheRecordStores() {
         apriConFigure({});
-        auto& note = intestazione().find<QPlainTextEdit>(u"note"_s);
+        auto& note = intestazione().find<toolkit::TextArea>(u"note"_s);
         QGuiApplication::clipboard()->setText(QString(40'000, u'è'));
         note.selectAll();
         note.paste();
