@@ -2,9 +2,8 @@
 #include "core/ModuloBase.h"
 #include "core/db.h"
 #include "platform/runtime/Dates.h"
+#include "support/Files.h"
 #include "support/RecordsTest.h"
-
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 using runtime::Variant;
@@ -18,17 +17,16 @@ private Q_SLOTS:
     void lookups() {
         const QString categorie = u"categorie"_s;
         const Variant notFound(u"ERR:Dati non trovati"_s);
-        QCOMPARE(d.Dlookup(u"nome"_s, categorie, {}), Variant(u"Forza"_s));
-        QCOMPARE(d.Dlookup(u"id_cat"_s, categorie, u"nome = 'generale'"_s), notFound);
-        QCOMPARE(log(), QStringList({u"DLOOKUP - SELECT nome FROM categorie "_s,
-                                     u"DLOOKUP - SELECT id_cat FROM categorie WHERE nome = 'generale'"_s,
-                                     u"DLOOKUP - Errore dati non trovati"_s}));
-        program().clearLog();
         QCOMPARE(d.DFirst(u"nome"_s, categorie, u"id_cat=3"_s), Variant(u"Recupero"_s));
         QCOMPARE(d.DFirst(u"nome"_s, categorie, u"id_cat=9"_s), notFound);
         QCOMPARE(d.dMax(u"id_cat"_s, categorie, {}), Variant(3));
         QVERIFY(d.dMax(u"id_utente"_s, u"utenti"_s, {}).isNull());
         QVERIFY(log().isEmpty());
+        QCOMPARE(d.Dlookup(u"nome"_s, categorie, {}), Variant(u"Forza"_s));
+        QCOMPARE(d.Dlookup(u"id_cat"_s, categorie, u"nome = 'generale'"_s), notFound);
+        QCOMPARE(log(), QStringList({u"DLOOKUP - SELECT nome FROM categorie "_s,
+                                     u"DLOOKUP - SELECT id_cat FROM categorie WHERE nome = 'generale'"_s,
+                                     u"DLOOKUP - Errore dati non trovati"_s}));
     }
 
     void failuresOfLookups() {
@@ -100,9 +98,7 @@ private Q_SLOTS:
         runtime::setClock([] { return QDateTime(QDate(2005, 2, 1), QTime(9, 5, 7)); });
         Logger::comune().log(u" **** Application START - è così 🏋"_s);
         runtime::setClock({});
-        QFile file(program().folder() + u"/log.txt"_s);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(file.readAll()),
+        QCOMPARE(QString::fromUtf8(readFile(program().folder() + u"/log.txt"_s)),
                  u"[01/02/2005 09:05:07]  **** Application START - è così 🏋\r\n"_s);
     }
 };

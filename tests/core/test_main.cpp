@@ -1,4 +1,5 @@
 #include "cards/mdiScheda.h"
+#include "core/CopieArchivio.h"
 #include "core/Guida.h"
 #include "core/Main.h"
 #include "core/Principale.h"
@@ -6,13 +7,11 @@
 #include "desktop/frmSplash.h"
 #include "platform/host/Application.h"
 #include "platform/host/Settings.h"
-#include "platform/toolkit/ProgressBar.h"
 #include "support/FakeDisplay.h"
-#include "support/FormPage.h"
 #include "support/Pictures.h"
 #include "support/RecordsTest.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -21,17 +20,6 @@ class TestMain : public RecordsTest {
     Q_OBJECT
 
     FakeDisplay display_{1280};
-    QString splash_; ///< how it was when it went
-
-public:
-    bool eventFilter(QObject* splash, QEvent* event) override {
-        if (event->type() == QEvent::Hide) {
-            const auto* bar = splash->findChild<toolkit::ProgressBar*>();
-            const bool hidden = Principale::esiste() && !Principale::comune().isVisible();
-            splash_ = u"%1/%2 %3"_s.arg(bar->value()).arg(bar->maximum()).arg(hidden);
-        }
-        return false;
-    }
 
 private Q_SLOTS:
     void init() {
@@ -46,16 +34,13 @@ private Q_SLOTS:
 
     void startsInOrder() {
         givePictures(program());
-        frmSplash::comune().installEventFilter(this);
         Main();
-        QCOMPARE(splash_, u"5/5 1"_s); // four figures
         QVERIFY(!frmSplash::esiste() && Principale::comune().isVisible());
         QVERIFY(mdiScheda::comune().isLoaded() && !mdiScheda::comune().isVisible() &&
                 !variabiliGlobali::inChiusura);
         QCOMPARE(guida::file, program().folder() + u"\\HELP\\HELP.hlp"_s);
         QCOMPARE(QSettings(host::settingsFile(), QSettings::IniFormat).value(u"Path"_s).toString(),
                  program().folder());
-        QVERIFY(QFile::exists(program().settingsFolder() + u"/Quiver-Deck.ini"_s));
         QCOMPARE(
             log().join(u'|'),
             u" **** Application START - Quiver-Deck versione %1|Execute - INSERT INTO Parametri (parametro, "
@@ -63,18 +48,20 @@ private Q_SLOTS:
                 host::versionText()));
     }
 
-    void failureLeavesEverythingAsItStands() {
-        QFile::remove(program().store());
-        // The counter is looked up, counted and stored; then the pictures are missing.
-        for (const QString& box : {u"Impossibile aprire l’archivio"_s, u"Impossibile aprire l’archivio"_s,
-                                   u"14-Impossibile aprire l’archivio"_s, u"File non trovato"_s})
-            boxes().expectBeginning(Icon::None, box);
-        Main();
-        QVERIFY(frmSplash::comune().isVisible() && !Principale::esiste());
-        QVERIFY(log().first().startsWith(u" **** Application START"_s) &&
-                log().last() == u"Risoluzione 1280x600"_s);
-        QTest::keyClick(&frmSplash::comune(), Qt::Key_Escape);
-        QVERIFY(!frmSplash::esiste());
+    /// The road of a good answer is the start's.
+    void declinedCopyLeavesTheStore() {
+        CopieArchivio().proponi(); // no box for a good store
+        const QString archivio = program().store();
+        const auto clock = [] { return QDateTime(QDate(2026, 11, 22), QTime(22, 30)); };
+        QCOMPARE(store::Backups(archivio, program().folder() + u"/backup"_s, clock).run(),
+                 store::Backups::Outcome::Copied);
+        QVERIFY(QFile::resize(archivio, 5000));
+        boxes().expectBeginning(Icon::Exclamation,
+                                u"L’archivio «splash.ps» manca o è danneggiato.\n\nLa copia di sicurezza più "
+                                "recente in buono stato è del 22/11/2026 alle 22:30."_s,
+                                host::Answer::No);
+        CopieArchivio().proponi();
+        QCOMPARE(QFileInfo(archivio).size(), 5000);
     }
 };
 
