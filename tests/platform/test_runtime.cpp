@@ -11,16 +11,13 @@ using namespace runtime;
 
 namespace {
 
-/// A text, and behind it what calls give or the errors they raise: "2.5|2|E6".
-template <class... Calls> QString told(const QString& text, Calls... calls) {
-    const auto one = [](const auto& call) {
-        try {
-            return u"%1"_s.arg(call());
-        } catch (const Error& error) {
-            return u"E%1"_s.arg(error.number());
-        }
-    };
-    return QStringList{text, one(calls)...}.join(u'|');
+/// What a call gives, or the error it raises: "|2.5", "|E6".
+template <class Call> QString told(const Call& call) {
+    try {
+        return u"|%1"_s.arg(call());
+    } catch (const Error& error) {
+        return u"|E%1"_s.arg(error.number());
+    }
 }
 
 } // namespace
@@ -35,15 +32,12 @@ private Q_SLOTS:
               u"32767.4|E6|32767"_s, u"32767.5|E6|E6"_s, u"-32768.5|E6|-32768"_s, u"nan|E6|E6"_s}) {
             const QString text = row.section(u'|', 0, 0);
             const double value = text == u"nan" ? std::nan("") : text.toDouble();
-            QCOMPARE(told(
-                         text, [&] { return toByte(value); }, [&] { return toInt16(value); }),
-                     row);
+            QCOMPARE(text + told([&] { return toByte(value); }) + told([&] { return toInt16(value); }), row);
         }
-        QCOMPARE(told(
-                     u"limits"_s, [] { return toInt32(2147483647.4); }, [] { return toInt32(2147483647.5); },
-                     [] { return add16(32767, 1); }, [] { return add16(-32768, -1); },
-                     [] { return mul16(255, 128); }, [] { return mul16(255, 129); }),
-                 u"limits|2147483647|E6|E6|E6|32640|E6"_s);
+        QCOMPARE(told([] { return toInt32(2147483647.4); }) + told([] { return toInt32(2147483647.5); }),
+                 u"|2147483647|E6"_s);
+        QCOMPARE(told([] { return add16(32767, 1); }) + told([] { return add16(-32768, -1); }), u"|E6|E6"_s);
+        QCOMPARE(told([] { return mul16(255, 128); }) + told([] { return mul16(255, 129); }), u"|32640|E6"_s);
     }
 
     void numbersInText() { // the number it begins with, the number it is, a byte, a Boolean
@@ -55,10 +49,10 @@ private Q_SLOTS:
               u"Falso|0|E13|-1|0"_s, u"0|0|0|0|0"_s, u"sì|0|E13|-1|E13"_s}) {
             const QString text = row.section(u'|', 0, 0);
             const auto byte = wholeByte(text);
-            QCOMPARE(told(
-                         text, [&] { return numberText(leadingNumber(text)); },
-                         [&] { return numberText(strictNumber(text)); },
-                         [&] { return byte ? int{*byte} : -1; }, [&] { return int{textToBoolean(text)}; }),
+            QCOMPARE(text + told([&] { return numberText(leadingNumber(text)); }) + told([&] {
+                         return numberText(strictNumber(text));
+                     }) + u"|%1"_s.arg(byte ? int{*byte} : -1) +
+                         told([&] { return int{textToBoolean(text)}; }),
                      row);
         }
     }
@@ -85,13 +79,12 @@ private Q_SLOTS:
         QVERIFY(!null.isNumeric() && Variant(u" 7 "_s).isNumeric() &&
                 !Variant(QDate(2005, 1, 1)).isNumeric());
         QCOMPARE(Variant(29221.5).toDateTime(), QDateTime(QDate(1980, 1, 1), QTime(12, 0), Qt::UTC));
-        QCOMPARE(told(
-                     u"variant"_s, [] { return Variant(true).toText(); },
-                     [] { return Variant(u"7"_s).toInt32(); },
-                     [] { return Variant(qint64{1} << 40).toInt32(); },
-                     [] { return Variant(u"ERR:x"_s).toInt32(); }, [&] { return null.toText(); },
-                     [&] { return null.toDouble(); }),
-                 u"variant|True|7|E6|E13|E94|E94"_s);
+        QCOMPARE(told([] { return Variant(true).toText(); }) + told([] {
+                     return Variant(u"7"_s).toInt32();
+                 }) + told([] { return Variant(qint64{1} << 40).toInt32(); }) +
+                     told([] { return Variant(u"ERR:x"_s).toInt32(); }) +
+                     told([&] { return null.toText(); }) + told([&] { return null.toDouble(); }),
+                 u"|True|7|E6|E13|E94|E94"_s);
     }
 };
 
