@@ -1,5 +1,7 @@
+#include "platform/toolkit/DatePicker.h"
+#include "platform/toolkit/Form.h"
+#include "platform/toolkit/TextBox.h"
 #include "support/Suite.h"
-#include "support/Toolkit.h"
 
 #include <QLineEdit>
 
