@@ -24,8 +24,8 @@ private Q_SLOTS:
         Figure byMuscle;
         byMuscle.init(false);
         const QString found = described(*byMuscle.figureQD); // equal numbers come in the store's order
-        QVERIFY(found.contains(u"3 1 ADD Addominali"_s) && found.contains(u"3 1 QUA Cosce"_s));
-        QVERIFY(found.endsWith(u", 2 1.5 GLU Glutei, 1 2 QUA Cosce"_s));
+        QVERIFY(found.contains(u"3 1 ADD Addominali"_s) &&
+                found.endsWith(u", 2 1.5 GLU Glutei, 1 2 QUA Cosce"_s));
         QCOMPARE(byMuscle.muscoli->Item(2)->nomeMuscolo, u"Quadricipite"_s); // by name: Addominali, Cosce
         byMuscle.init(false);
         QCOMPARE(byMuscle.figureQD->Count(), 8); // nothing empties it
@@ -57,11 +57,12 @@ private Q_SLOTS:
                  {{7, 8, 100, 100}, {7, 8, 100, 100}},
                  {{10, 20, 40, 20}, {40, 60, 40, 20}},    // a small one is only centred
                  {{0, 0, 401, 201}, {0, 25, 100, 50}}}) { // whole twips are taken off
-            FakeBox box(before.x(), before.y(), before.width(), before.height());
+            FakeBox box;
+            box.place = before;
             resizer.setImage(box);
             for (int call = 1; call <= 2; ++call) { // the second changes nothing
                 resizer.ridimensiona();
-                QCOMPARE(QRectF(box.left(), box.top(), box.width(), box.height()), after);
+                QCOMPARE(box.place, after);
             }
             QVERIFY(box.visible && box.refreshed == 2);
         }

@@ -3,11 +3,11 @@
 #include "platform/host/Controls.h"
 #include "platform/host/Services.h"
 #include "platform/runtime/Error.h"
+#include "support/Installed.h"
 
 #include <QHash>
+#include <QRectF>
 #include <QStringList>
-
-#include <vector>
 
 // Controls of plain data, for tests of what a record does with one.
 
@@ -24,21 +24,17 @@ public:
 
 class FakeCheckList : public host::CheckList {
 public:
-    explicit FakeCheckList(int count) : ticks(static_cast<std::size_t>(count)) {}
+    explicit FakeCheckList(int count) : ticks(count) {}
     int count() const override { return static_cast<int>(ticks.size()); }
-    bool checked(int index) const override { return ticks.at(static_cast<std::size_t>(index)); }
-    void setChecked(int index, bool on) override { ticks.at(static_cast<std::size_t>(index)) = on; }
+    bool checked(int index) const override { return ticks.at(index); }
+    void setChecked(int index, bool on) override { ticks[index] = on; }
 
-    std::vector<bool> ticks;
+    QList<bool> ticks;
 };
 
 /// The mouse where the test puts it.
-class FakeCursor : public host::Cursor {
+class FakeCursor : public Installed<host::Cursor, host::setCursor> {
 public:
-    FakeCursor() { host::setCursor(this); }
-    ~FakeCursor() override { host::setCursor(nullptr); }
-    FakeCursor(const FakeCursor&) = delete;
-    FakeCursor& operator=(const FakeCursor&) = delete;
     QPoint position() override { return at; }
 
     QPoint at;
@@ -58,21 +54,18 @@ public:
 
 class FakeBox : public host::Box {
 public:
-    FakeBox(double l, double t, double w, double h) : l_(l), t_(t), w_(w), h_(h) {}
-    double left() const override { return l_; }
-    double top() const override { return t_; }
-    double width() const override { return w_; }
-    double height() const override { return h_; }
-    void setLeft(double twips) override { l_ = twips; }
-    void setTop(double twips) override { t_ = twips; }
-    void setWidth(double twips) override { w_ = twips; }
-    void setHeight(double twips) override { h_ = twips; }
+    double left() const override { return place.x(); }
+    double top() const override { return place.y(); }
+    double width() const override { return place.width(); }
+    double height() const override { return place.height(); }
+    void setLeft(double twips) override { place.moveLeft(twips); }
+    void setTop(double twips) override { place.moveTop(twips); }
+    void setWidth(double twips) override { place.setWidth(twips); }
+    void setHeight(double twips) override { place.setHeight(twips); }
     void setVisible(bool on) override { visible = on; }
     void refresh() override { ++refreshed; }
 
+    QRectF place;
     bool visible = false;
     int refreshed = 0;
-
-private:
-    double l_, t_, w_, h_;
 };

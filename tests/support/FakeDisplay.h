@@ -1,17 +1,15 @@
 #pragma once
 
 #include "platform/host/Display.h"
+#include "support/Installed.h"
 
 #include <QString>
 
 /// A screen of 800 x 600 for tests, unless they say otherwise, which keeps what it was set to: "1024x768x24
 /// ".
-class FakeDisplay : public host::Display {
+class FakeDisplay : public Installed<host::Display, host::setDisplay> {
 public:
-    explicit FakeDisplay(int width = 800) : width_(width) { host::setDisplay(this); }
-    ~FakeDisplay() override { host::setDisplay(nullptr); }
-    FakeDisplay(const FakeDisplay&) = delete;
-    FakeDisplay& operator=(const FakeDisplay&) = delete;
+    explicit FakeDisplay(int width = 800) : width_(width) {}
     bool read(host::DisplayMode& mode) override {
         mode = {width_, 600, 24, 60};
         return true;

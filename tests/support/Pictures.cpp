@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QImage>
 
-#include <algorithm>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -16,10 +15,8 @@ void givePictures(const ScratchProgram& program) {
         givePicture(program, row.section(u'|', 1), colourOfFigure(row.section(u'|', 0, 0).toInt()));
     givePicture(program, u"FolderXP.JPG"_s, Qt::yellow);
     givePicture(program, u"BodyMap/corpo.JPG"_s, colourOfMap({}));
-    for (const char* code : codiciMuscoli()) {
-        givePicture(program, u"BodyMap/Corpo_%1.JPG"_s.arg(QLatin1String(code)),
-                    colourOfMap(QLatin1String(code)));
-    }
+    for (const QString code : codiciMuscoli())
+        givePicture(program, u"BodyMap/Corpo_%1.JPG"_s.arg(code), colourOfMap(code));
 }
 
 void givePicture(const ScratchProgram& program, QString file, const QColor& colour, QSize size) {
@@ -44,11 +41,7 @@ QColor colourOfFigure(int id_fig) {
 }
 
 QColor colourOfMap(const QString& code) {
-    const auto& codes = codiciMuscoli();
-    const auto at = std::find_if(codes.begin(), codes.end(),
-                                 [&code](const char* other) { return code == QLatin1String(other); });
-    return at == codes.end() ? QColor(Qt::white)
-                             : QColor::fromHsv(static_cast<int>(at - codes.begin() + 1) * 15, 255, 120);
+    return code.isEmpty() ? QColor(Qt::white) : QColor::fromHsv(qChecksum(code.toLatin1()) % 360, 255, 120);
 }
 
 bool alike(const QColor& a, const QColor& b) {

@@ -1,6 +1,5 @@
 #include "support/ScratchProgram.h"
 
-#include "core/ModuloBase.h"
 #include "core/db.h"
 #include "platform/host/ProgramDirectory.h"
 #include "platform/host/Settings.h"
@@ -8,7 +7,6 @@
 
 #include <sqlite3.h>
 
-#include <memory>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -29,39 +27,28 @@ INSERT INTO EserciziModello VALUES (1,1,1,2,'30 sec','30 Hz','Low',1,20,3,'Stati
                                    (2,2,1,3,'45 sec','35 Hz','High',0,30,2,'Dinamico','5 kg','0','seconda');
 )";
 
-struct CloseDatabase {
-    void operator()(sqlite3* database) const { sqlite3_close(database); }
-};
-using Database = std::unique_ptr<sqlite3, CloseDatabase>;
-
-Database open(const QString& path, int flags) {
-    sqlite3* handle = nullptr;
-    const int code = sqlite3_open_v2(QFile::encodeName(path).constData(), &handle, flags, nullptr);
-    Database database(handle);
-    if (code != SQLITE_OK)
-        throw std::runtime_error(sqlite3_errstr(code));
-    return database;
-}
-
-void run(const Database& database, const QByteArray& sql, int (*row)(void*, int, char**, char**) = nullptr,
+/// Runs statements on a store file that exists; `row` takes each row of their answers.
+void run(const QString& store, const QByteArray& sql, int (*row)(void*, int, char**, char**) = nullptr,
          void* target = nullptr) {
-    if (sqlite3_exec(database.get(), sql.constData(), row, target, nullptr) != SQLITE_OK)
-        throw std::runtime_error(sqlite3_errmsg(database.get()));
+    sqlite3* database = nullptr;
+    sqlite3_open_v2(QFile::encodeName(store).constData(), &database, SQLITE_OPEN_READWRITE, nullptr);
+    const int code = sqlite3_exec(database, sql.constData(), row, target, nullptr);
+    sqlite3_close(database);
+    if (code != SQLITE_OK)
+        throw std::runtime_error(sqlite3_errstr(code) + (": " + sql).toStdString());
 }
 
 } // namespace
 
 ScratchProgram::ScratchProgram() : folder_(root_.filePath(u"Palestra è qui/Quiverdeck"_s)) {
-    if (!QDir().mkpath(folder_) || !QDir().mkpath(settingsFolder()))
+    if (!QDir().mkpath(settingsFolder()))
         throw std::runtime_error("no scratch folder");
-    const auto database = open(store(), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    run(database, "BEGIN");
-    run(database, readFile(qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/data/schema.sql"_s));
-    run(database, smallRows);
-    run(database, "COMMIT");
+    writeFile(store());
+    const QByteArray schema = readFile(qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/data/schema.sql"_s);
+    run(store(), "BEGIN;" + schema + smallRows + "COMMIT");
     host::setProgramDirectory(folder_);
     host::setSettingsFolder(settingsFolder());
-    db::comune().dbName = ModuloBase::nomeArchivio();
+    db::comune().dbName = u"splash.ps"_s;
 }
 
 ScratchProgram::~ScratchProgram() {
@@ -69,22 +56,14 @@ ScratchProgram::~ScratchProgram() {
     host::setSettingsFolder({});
 }
 
-QString ScratchProgram::store() const {
-    return folder_ + u'/' + ModuloBase::nomeArchivio();
-}
-
-QString ScratchProgram::settingsFolder() const {
-    return root_.filePath(u"impostazioni"_s);
-}
-
 void ScratchProgram::sql(const QString& statements) const {
-    run(open(store(), SQLITE_OPEN_READWRITE), statements.toUtf8());
+    run(store(), statements.toUtf8());
 }
 
 QStringList ScratchProgram::rows(const QString& query) const {
     QStringList result;
     run(
-        open(store(), SQLITE_OPEN_READWRITE), query.toUtf8(),
+        store(), query.toUtf8(),
         [](void* target, int count, char** values, char** /*names*/) {
             QStringList cells;
             for (int i = 0; i < count; ++i)
@@ -103,8 +82,4 @@ QStringList ScratchProgram::log() const {
     for (QString& line : lines)
         line.remove(0, stampLength);
     return lines;
-}
-
-void ScratchProgram::clearLog() const {
-    QFile::remove(folder_ + u"/log.txt"_s);
 }

@@ -15,13 +15,12 @@ class ScratchProgram {
 public:
     ScratchProgram();
     ~ScratchProgram();
-    ScratchProgram(const ScratchProgram&) = delete;
-    ScratchProgram& operator=(const ScratchProgram&) = delete;
+    Q_DISABLE_COPY(ScratchProgram)
 
     /// No separator at the end.
     QString folder() const { return folder_; }
-    QString store() const;
-    QString settingsFolder() const;
+    QString store() const { return folder_ + QStringLiteral("/splash.ps"); }
+    QString settingsFolder() const { return root_.filePath(QStringLiteral("impostazioni")); }
 
     /// Runs statements straight on the store, beside the program's own road; throws std::runtime_error.
     void sql(const QString& statements) const;
@@ -30,7 +29,6 @@ public:
 
     /// The lines of log.txt without their date and time.
     QStringList log() const;
-    void clearLog() const;
 
 private:
     QTemporaryDir root_;

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "platform/host/Services.h"
+#include "support/Installed.h"
 
 #include <QDebug>
 #include <QTest>
 
-#include <deque>
 #include <functional>
 
 /// Message boxes for tests: what will be asked, and the answer, is stated in advance and in order. A box
@@ -15,30 +15,21 @@
 ///     boxes.expect(host::Icon::Critical, "Confermi?", host::Answer::Yes);
 ///     ...
 ///     QVERIFY(boxes.satisfied());
-class ScriptedBoxes : public host::Boxes {
+class ScriptedBoxes : public Installed<host::Boxes, host::setBoxes> {
 public:
-    /// Installs itself, until it is destroyed.
-    ScriptedBoxes() { host::setBoxes(this); }
-    ~ScriptedBoxes() override { host::setBoxes(nullptr); }
-    ScriptedBoxes(const ScriptedBoxes&) = delete;
-    ScriptedBoxes& operator=(const ScriptedBoxes&) = delete;
-
     void expect(host::Icon icon, const QString& text, host::Answer answer = host::Answer::Ok) {
-        expected_.push_back({icon, text, answer, true});
+        expected_.append({icon, text, answer, true});
     }
     /// For a text of which only the beginning is fixed.
     void expectBeginning(host::Icon icon, const QString& beginning, host::Answer answer = host::Answer::Ok) {
-        expected_.push_back({icon, beginning, answer, false});
+        expected_.append({icon, beginning, answer, false});
     }
 
-    /// True if every expectation was met and no other box came; tells of the rest. Starts anew either way.
+    /// True if every expectation was met; tells of the rest. Starts anew either way.
     [[nodiscard]] bool satisfied() {
         for (const Expectation& missing : expected_)
             qWarning() << "the box never came:" << missing.text;
-        const bool good = expected_.empty() && unexpected_ == 0;
-        expected_.clear();
-        unexpected_ = 0;
-        return good;
+        return std::exchange(expected_, {}).isEmpty();
     }
 
     /// What happens on an unexpected box, the test's failure by default. The box then answers as if it had
@@ -48,27 +39,20 @@ public:
     };
 
     host::Answer show(host::Icon icon, const QString& text, host::Buttons buttons) override {
-        using host::Answer;
-        using host::Buttons;
-        const Answer dismissal = buttons == Buttons::Ok      ? Answer::Ok
-                                 : buttons == Buttons::YesNo ? Answer::No
-                                                             : Answer::Cancel;
-        if (!expected_.empty()) {
-            const Expectation next = expected_.front();
-            const bool asks =
-                buttons != Buttons::Ok && (next.answer == Answer::Yes || next.answer == Answer::No);
+        if (!expected_.isEmpty()) {
+            const Expectation next = expected_.first();
             const bool sameText = next.whole ? text == next.text : text.startsWith(next.text);
-            if (sameText && icon == next.icon && (asks || next.answer == dismissal)) {
-                expected_.pop_front();
+            const bool canAnswer = (buttons == host::Buttons::Ok) == (next.answer == host::Answer::Ok);
+            if (sameText && icon == next.icon && canAnswer) {
+                expected_.removeFirst();
                 return next.answer;
             }
         }
-        ++unexpected_;
-        onUnexpected(QStringLiteral("unexpected box, icon %1, buttons %2: \"%3\"; expected: \"%4\"")
+        onUnexpected(QStringLiteral("unexpected box, icon %1, buttons %2: \"%3\"")
                          .arg(static_cast<int>(icon))
                          .arg(static_cast<int>(buttons))
-                         .arg(text, expected_.empty() ? QStringLiteral("none") : expected_.front().text));
-        return dismissal;
+                         .arg(text));
+        return buttons == host::Buttons::YesNo ? host::Answer::No : host::Answer::Cancel;
     }
 
 private:
@@ -79,6 +63,5 @@ private:
         bool whole;
     };
 
-    std::deque<Expectation> expected_;
-    int unexpected_ = 0;
+    QList<Expectation> expected_;
 };

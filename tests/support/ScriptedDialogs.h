@@ -2,18 +2,14 @@
 
 #include "platform/host/Services.h"
 #include "platform/toolkit/PrinterDialog.h"
+#include "support/Installed.h"
 
 #include <QPageSize>
 #include <QPrinter>
 
-/// A printer dialog for tests: prints to a PDF of the test's own, or is dismissed. Installs itself.
-class ScriptedPrinterDialog : public toolkit::PrinterDialog {
+/// A printer dialog for tests: prints to a PDF of the test's own, or is dismissed.
+class ScriptedPrinterDialog : public Installed<toolkit::PrinterDialog, toolkit::setPrinterDialog> {
 public:
-    ScriptedPrinterDialog() { toolkit::setPrinterDialog(this); }
-    ~ScriptedPrinterDialog() override { toolkit::setPrinterDialog(nullptr); }
-    ScriptedPrinterDialog(const ScriptedPrinterDialog&) = delete;
-    ScriptedPrinterDialog& operator=(const ScriptedPrinterDialog&) = delete;
-
     bool choose(QPrinter& printer, toolkit::PrintRange& range) override {
         ++calls;
         asked = range;
@@ -34,20 +30,10 @@ public:
     toolkit::PrintRange asked; ///< what the caller proposed last
 };
 
-/// A file dialog for tests: gives `answer` (empty: dismissed) and keeps what it was asked for. Installs
-/// itself.
-class ScriptedFileDialogs : public host::FileDialogs {
+/// A file dialog for tests: gives `answer`, empty when it is dismissed.
+class ScriptedFileDialogs : public Installed<host::FileDialogs, host::setFileDialogs> {
 public:
-    ScriptedFileDialogs() { host::setFileDialogs(this); }
-    ~ScriptedFileDialogs() override { host::setFileDialogs(nullptr); }
-    ScriptedFileDialogs(const ScriptedFileDialogs&) = delete;
-    ScriptedFileDialogs& operator=(const ScriptedFileDialogs&) = delete;
-
-    QString openFile(const QString& filter, const QString& /*folder*/) override {
-        filters.append(filter);
-        return answer;
-    }
+    QString openFile(const QString& /*filter*/, const QString& /*folder*/) override { return answer; }
 
     QString answer;
-    QStringList filters;
 };

@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <map>
-#include <vector>
 
 namespace {
 
@@ -16,23 +15,16 @@ std::map<QString, suite::Run>& entries() {
 } // namespace
 
 suite::Entry::Entry(const char* file, Run run) {
-    entries()[QFileInfo(QString::fromLocal8Bit(file)).completeBaseName().remove(QLatin1String("test_"))] =
-        run;
+    const QString name = QFileInfo(QString::fromLocal8Bit(file)).completeBaseName();
+    entries()[name.mid(name.indexOf(u'_') + 1)] = run;
 }
 
 int suite::run(int argc, char** argv) {
-    int failures = 0;
-    if (argc < 2)
-        for (const auto& [name, test] : entries())
-            failures += test(argc, argv);
-    if (argc < 2)
-        return failures;
-    const auto entry = entries().find(QString::fromLocal8Bit(argv[1]));
+    const auto entry = entries().find(QString::fromLocal8Bit(argc < 2 ? "" : argv[1]));
     if (entry == entries().end()) {
-        std::fprintf(stderr, "no test \"%s\"\n", argv[1]);
+        std::fputs("name one test of this program\n", stderr);
         return 255;
     }
-    std::vector<char*> rest(argv, argv + argc);
-    rest.erase(rest.begin() + 1);
-    return entry->second(argc - 1, rest.data());
+    argv[1] = argv[0];
+    return entry->second(argc - 1, argv + 1);
 }

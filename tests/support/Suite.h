@@ -4,7 +4,6 @@
 
 /// Several test classes in one program, which saves a link for each. A class bears the name of its file
 /// without "test_"; what stands behind the name is Qt Test's own: `test_records scheda travasaTo:shared`.
-/// Without a name all of them run, one behind the other.
 namespace suite {
 
 using Run = int (*)(int argc, char** argv);
@@ -14,7 +13,7 @@ struct Entry {
     Entry(const char* file, Run run);
 };
 
-/// Runs the class that the first argument names, all of them without one; the number of failures.
+/// Runs the class that the first argument names; the number of failures.
 int run(int argc, char** argv);
 
 } // namespace suite

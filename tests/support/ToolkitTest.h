@@ -16,8 +16,7 @@ public:
         });
     }
     ~ExpectedFatal() { toolkit::Application::setFatalHandler({}); }
-    ExpectedFatal(const ExpectedFatal&) = delete;
-    ExpectedFatal& operator=(const ExpectedFatal&) = delete;
+    Q_DISABLE_COPY(ExpectedFatal)
 
     int count = 0;
     int lastNumber = 0;

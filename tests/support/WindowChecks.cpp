@@ -5,123 +5,63 @@
 #include "platform/toolkit/Label.h"
 
 #include <QAccessible>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QRadioButton>
-#include <QStyleOptionButton>
-#include <QStyleOptionComboBox>
-#include <QTabBar>
-#include <QToolButton>
+#include <QMdiSubWindow>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A line editor keeps 2 pixels on either side, and one for the caret.
-constexpr int lineMargins = 5;
+constexpr QSize endless(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 
-class Walk {
-public:
-    explicit Walk(const QWidget& window) {
-        for (const QWidget* widget : window.findChildren<QWidget*>())
-            if (widget->isVisible())
-                check(*widget);
-    }
+/// Texts, each with the room for it.
+using Texts = QList<std::pair<QString, QSize>>;
 
-    QStringList cut;
+Texts textsOf(const QHeaderView& header) {
+    Texts texts;
+    for (int section = 0; section < header.count(); ++section)
+        if (!header.isSectionHidden(section))
+            texts.append({header.model()->headerData(section, header.orientation()).toString(),
+                          {header.sectionSize(section) - 8, header.height()}});
+    return texts;
+}
 
-private:
-    /// `room` is the width for the text and its margins; the height is the font's without its empty leading.
-    void tell(const QWidget& widget, const QString& text, int margins, QSize room) {
-        const QSize needed(widget.fontMetrics().size(Qt::TextShowMnemonic, text).width() + margins,
-                           widget.fontMetrics().height() - 1);
-        if (text.isEmpty() || (needed.width() <= room.width() && needed.height() <= room.height()))
-            return;
-        const QWidget* named = &widget;
-        while (named->objectName().isEmpty() && named->parentWidget() != nullptr)
-            named = named->parentWidget();
-        cut.append(u"%1: \"%2\" needs %3 × %4 pixels"_s.arg(named->objectName(), text)
-                       .arg(needed.width())
-                       .arg(needed.height()));
-    }
+Texts textsOf(const QComboBox& combo) {
+    const QSize room = combo.isEditable() ? combo.lineEdit()->size() - QSize(5, 0)
+                                          : combo.size() - QSize(24, 2); // its arrow and its frame
+    Texts texts{{combo.currentText(), room}};
+    for (int item = 0; item < combo.count(); ++item)
+        texts.append({combo.itemText(item), room});
+    return texts;
+}
 
-    void check(const QWidget& widget) {
-        if (const auto* label = qobject_cast<const toolkit::Label*>(&widget)) {
-            tell(widget, label->text(), 0,
-                 label->isWhole() ? QSize(QWIDGETSIZE_MAX, label->height()) : QSize());
-            inside(widget, label->text());
-        } else if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-            checkButton(*button);
-        } else if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-            checkCombo(*combo);
-        } else if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) {
-            const int frame =
-                line->hasFrame() ? 2 * line->style()->pixelMetric(QStyle::PM_DefaultFrameWidth) : 0;
-            const QMargins inner = line->textMargins();
-            if (qobject_cast<const QComboBox*>(line->parentWidget()) == nullptr)
-                tell(widget, line->text(), lineMargins + inner.left() + inner.right(),
-                     line->size() - QSize(frame, frame));
-        } else if (const auto* tabs = qobject_cast<const QTabBar*>(&widget)) {
-            const bool upright =
-                tabs->shape() == QTabBar::RoundedWest || tabs->shape() == QTabBar::RoundedEast;
-            for (int index = 0; index < tabs->count(); ++index) {
-                const QSize place = tabs->tabRect(index).intersected(tabs->rect()).size();
-                tell(*tabs, tabs->tabText(index), 4, upright ? place.transposed() : place);
-            }
-        } else if (const auto* header = qobject_cast<const QHeaderView*>(&widget)) {
-            const int margins = 2 * header->style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, header);
-            for (int section = 0; section < header->count(); ++section)
-                if (!header->isSectionHidden(section))
-                    tell(*header, header->model()->headerData(section, header->orientation()).toString(),
-                         margins, {header->sectionSize(section), header->height()});
-        } else if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
-            if (list->sizeHintForColumn(0) > list->viewport()->width())
-                cut.append(list->objectName() + u": an item"_s);
-        } else if (const auto* frame = qobject_cast<const toolkit::Frame*>(&widget)) {
-            tell(widget, frame->caption(), 14, frame->size());
-        }
-    }
-
-    /// A caption outside its parent is cut by it.
-    void inside(const QWidget& widget, const QString& text) {
-        if (!text.isEmpty() &&
-            !widget.parentWidget()->rect().adjusted(0, 0, 1, 1).contains(widget.geometry()))
-            tell(widget, text, 0, {});
-    }
-
-    void checkButton(const QAbstractButton& button) {
-        inside(button, button.text());
-        if (qobject_cast<const QToolButton*>(&button) != nullptr)
-            return tell(button, button.text(), 0, button.size() - button.sizeHint() + QSize(9999, 9999));
-        QStyleOptionButton option;
-        option.initFrom(&button);
-        option.text = button.text();
-        option.icon = button.icon();
-        option.iconSize = button.iconSize();
-        const auto contents =
-            qobject_cast<const QRadioButton*>(&button) != nullptr ? QStyle::SE_RadioButtonContents
-            : qobject_cast<const QCheckBox*>(&button) != nullptr  ? QStyle::SE_CheckBoxContents
-                                                                  : QStyle::SE_PushButtonContents;
-        const int room = button.style()->subElementRect(contents, &option, &button).width();
-        tell(button, button.text(), button.icon().isNull() ? 0 : button.iconSize().width() + 4,
-             {room, button.height() - 2});
-    }
-
-    void checkCombo(const QComboBox& combo) {
-        QStyleOptionComboBox option;
-        option.initFrom(&combo);
-        option.editable = combo.isEditable();
-        option.subControls = QStyle::SC_All;
-        const QRect field =
-            combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo);
-        for (int item = -1; item < combo.count(); ++item)
-            tell(combo, item < 0 ? combo.currentText() : combo.itemText(item),
-                 combo.isEditable() ? lineMargins : 0, field.size());
-    }
-};
+/// What a control writes. Where a control knows its own need, it is all or nothing.
+Texts textsOf(const QWidget& widget) {
+    const QSize size = widget.size();
+    if (const auto* label = qobject_cast<const toolkit::Label*>(&widget))
+        return {{label->text(), label->isWhole() ? endless : QSize()}};
+    if (const auto* frame = qobject_cast<const toolkit::Frame*>(&widget))
+        return {{frame->caption(), size - QSize(14, 0)}};
+    if (const auto* button = qobject_cast<const QPushButton*>(&widget))
+        return {
+            {button->text(), size - QSize(button->icon().isNull() ? 4 : button->iconSize().width() + 8, 2)}};
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+        return {{button->text(), size.width() < button->sizeHint().width() ? QSize() : endless}};
+    if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
+        return {
+            {line->text(), size - QSize(5 + line->textMargins().left() + line->textMargins().right(), 0)}};
+    if (const auto* list = qobject_cast<const QListWidget*>(&widget))
+        return {{u"an item"_s, list->sizeHintForColumn(0) > list->viewport()->width() ? QSize() : endless}};
+    if (const auto* combo = qobject_cast<const QComboBox*>(&widget))
+        return textsOf(*combo);
+    if (const auto* header = qobject_cast<const QHeaderView*>(&widget))
+        return textsOf(*header);
+    return {};
+}
 
 /// Parts of a control, and pages, which only hold controls.
 bool isPart(const QWidget& control) {
@@ -143,18 +83,6 @@ QList<const QWidget*> stops(const QWidget& window) {
     return found;
 }
 
-/// From the window down to the control.
-QList<const QWidget*> ancestry(const QWidget* control) {
-    QList<const QWidget*> line;
-    for (; control != nullptr; control = control->parentWidget())
-        line.prepend(control);
-    return line;
-}
-
-QRect placeOf(const QWidget& control) {
-    return {control.mapTo(control.window(), QPoint(0, 0)), control.size()};
-}
-
 bool readsBefore(const QRect& first, const QRect& second) {
     const int shared = std::min(first.bottom(), second.bottom()) - std::max(first.top(), second.top());
     if (2 * shared >= std::max(first.height(), second.height())) // one row
@@ -163,9 +91,9 @@ bool readsBefore(const QRect& first, const QRect& second) {
     return second.top() >= first.top() || nextColumn;
 }
 
-/// Tab goes round in a page of the editor and does not leave it.
-const QWidget* pageOf(const QWidget* control) {
-    while (!control->isWindow() && qobject_cast<const toolkit::Form*>(control) == nullptr)
+/// The control, or what holds it beside the other one.
+const QWidget* besideOf(const QWidget* control, const QWidget* other) {
+    while (!control->parentWidget()->isAncestorOf(other))
         control = control->parentWidget();
     return control;
 }
@@ -173,7 +101,19 @@ const QWidget* pageOf(const QWidget* control) {
 } // namespace
 
 QStringList cutTexts(const QWidget& window) {
-    return Walk(window).cut;
+    QStringList cut;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible())
+            continue;
+        const QFontMetrics font = widget->fontMetrics();
+        const bool inside = widget->parentWidget()->rect().adjusted(0, 0, 1, 1).contains(widget->geometry());
+        for (const auto& [text, room] : textsOf(*widget))
+            if (!text.isEmpty() &&
+                (!inside || font.height() - 1 > room.height() || // without the empty leading
+                 font.size(Qt::TextShowMnemonic, text).width() > room.width()))
+                cut.append(u"%1: \"%2\" is cut"_s.arg(nameOf(*widget), text));
+    }
+    return cut;
 }
 
 QStringList namelessControls(const QWidget& window) {
@@ -192,14 +132,11 @@ QStringList leapsOfTab(const QWidget& window) {
     QStringList leaps;
     const auto all = stops(window);
     for (qsizetype i = 1; i < all.size(); ++i) {
-        if (pageOf(all[i - 1]) != pageOf(all[i]))
-            continue;
-        const auto before = ancestry(all[i - 1]);
-        const auto after = ancestry(all[i]);
-        qsizetype depth = 0;
-        while (depth + 1 < std::min(before.size(), after.size()) && before[depth] == after[depth])
-            ++depth;
-        if (!readsBefore(placeOf(*before[depth]), placeOf(*after[depth])))
+        const QWidget* before = besideOf(all[i - 1], all[i]);
+        const QWidget* after = besideOf(all[i], all[i - 1]);
+        // Tab goes round in a page of the editor and does not leave it.
+        if (qobject_cast<const QMdiSubWindow*>(before) == nullptr &&
+            !readsBefore(before->geometry(), after->geometry()))
             leaps.append(nameOf(*all[i - 1]) + u" -> "_s + nameOf(*all[i]));
     }
     return leaps;

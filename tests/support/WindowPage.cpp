@@ -40,25 +40,17 @@ QWidget& WindowPage::ready(const QString& name) const {
 
 void WindowPage::press(const QString& name) const {
     QWidget& control = ready(name);
-    QPoint where = control.rect().center();
-    if (qobject_cast<QAbstractButton*>(&control) != nullptr)
-        where = QPoint(std::min(where.x(), 12), where.y()); // an option answers only on its picture and text
-    QTest::mouseClick(&control, Qt::LeftButton, {}, where);
+    // Near its beginning: an option answers only on its picture and text.
+    QTest::mouseClick(&control, Qt::LeftButton, {},
+                      {std::min(control.width() / 2, 12), control.height() / 2});
 }
 
 void WindowPage::type(const QString& name, const QString& text) const {
     QWidget& control = ready(name);
-    QWidget* inside = &control;
-    if (const auto* combo = qobject_cast<QComboBox*>(&control);
-        combo != nullptr && combo->lineEdit() != nullptr)
-        inside = combo->lineEdit();
-    else if (auto* area = qobject_cast<QPlainTextEdit*>(&control))
-        inside = area->viewport();
-    QTest::mouseClick(inside, Qt::LeftButton, {}, QPoint(4, inside->height() / 2));
-    if (auto* line = qobject_cast<QLineEdit*>(inside))
-        line->selectAll();
-    else if (auto* area = qobject_cast<QPlainTextEdit*>(&control))
-        area->selectAll();
+    const QPoint where(4, control.height() / 2);
+    QWidget* inside = control.childAt(where); // a combo's line, an area's viewport
+    QTest::mouseClick(inside == nullptr ? &control : inside, Qt::LeftButton, {}, where);
+    QMetaObject::invokeMethod(control.inherits("QComboBox") ? inside : &control, "selectAll");
     if (text.isEmpty())
         QTest::keyClick(&control, Qt::Key_Backspace);
     else
@@ -70,30 +62,21 @@ void WindowPage::key(const QString& name, Qt::Key key, Qt::KeyboardModifiers mod
 }
 
 void WindowPage::choose(const QString& name, const QString& item) const {
-    ready(name);
+    ready(name).setFocus();
     auto& combo = find<QComboBox>(name);
-    const int wanted = combo.findText(item, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (wanted < 0)
+    // By keys only; all the way up and down makes a choice even of the item that is chosen already.
+    for (int step = 1; step < 2 * combo.count(); ++step)
+        QTest::keyClick(&combo, step < combo.count() ? Qt::Key_Up : Qt::Key_Down);
+    while (combo.currentIndex() > 0 && combo.currentText() != item)
+        QTest::keyClick(&combo, Qt::Key_Up);
+    if (combo.currentText() != item)
         fail(name + u" has no item "_s + item);
-    combo.setFocus();
-    // By keys only; one step more and back makes a choice even of the item that is chosen already.
-    for (int step = combo.currentIndex(); step > 0; --step)
-        QTest::keyClick(&combo, Qt::Key_Up);
-    if (wanted == 0) {
-        QTest::keyClick(&combo, Qt::Key_Down);
-        QTest::keyClick(&combo, Qt::Key_Up);
-    }
-    while (combo.currentIndex() < wanted)
-        QTest::keyClick(&combo, Qt::Key_Down);
 }
 
 void WindowPage::clickLine(const QString& name, int line, int times) const {
     ready(name);
     auto& list = find<toolkit::ReportList>(name);
-    int column = 0;
-    while (list.isColumnHidden(column))
-        ++column;
-    const QModelIndex index = list.model()->index(line, column);
+    const QModelIndex index = list.model()->index(line, 1); // the first column may be hidden
     list.scrollTo(index);
     const QPoint where = list.visualRect(index).center();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, where);
@@ -104,9 +87,7 @@ void WindowPage::clickLine(const QString& name, int line, int times) const {
 void WindowPage::clickHeader(const QString& name, int column) const {
     ready(name);
     const QHeaderView& header = *find<toolkit::ReportList>(name).header();
-    const QPoint where(header.sectionViewportPosition(column) + header.sectionSize(column) / 2,
-                       header.height() / 2);
-    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, where);
+    QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {header.sectionViewportPosition(column) + 9, 9});
 }
 
 void WindowPage::clickTab(const QString& name, int index) const {

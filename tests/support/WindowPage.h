@@ -12,7 +12,6 @@ public:
     explicit WindowPage(QWidget& window) : window_(window) {}
 
     QWidget& window() const { return window_; }
-    bool exists(const QString& name) const { return window_.findChild<QWidget*>(name) != nullptr; }
     /// Shown to the user, in a window that shows.
     bool isVisible(const QString& name) const { return widget(name).isVisible(); }
     bool isEnabled(const QString& name) const { return widget(name).isEnabled(); }
@@ -30,7 +29,7 @@ public:
     /// Puts the focus on a field by a click and replaces its text by typing.
     void type(const QString& name, const QString& text) const;
     void key(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
-    /// Chooses a combo box's item by arrow keys from the first one.
+    /// Chooses a combo box's item by arrow keys.
     void choose(const QString& combo, const QString& item) const;
     /// Clicks a line of a ReportList, `times` 2 double-clicks it.
     void clickLine(const QString& list, int line, int times = 1) const;

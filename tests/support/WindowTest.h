@@ -14,8 +14,11 @@ class WindowTest : public RecordsTest {
 
 protected Q_SLOTS:
     void init() {
+        using namespace variabiliGlobali;
         RecordsTest::init();
-        azzera();
+        idUtenteSelezionato = idSchedaSelezionata = idModelloSelezionato = 0;
+        nomeModelloSelezionato.clear();
+        inChiusura = false;
         sql(u"INSERT INTO muscoli VALUES ('PET','Pettorali','Grande pettorale'),('VUO','Vuoto','');"
             "INSERT INTO figure_muscoli VALUES (1,'PET');");
         givePictures(program());
@@ -26,7 +29,6 @@ protected Q_SLOTS:
             mdiScheda::comune().puoiChiudere = true;
         toolkit::Form::destroyAll();
         toolkit::Application::purge();
-        azzera();
         RecordsTest::cleanup();
     }
 
@@ -40,13 +42,5 @@ protected:
             .arg(idUtenteSelezionato)
             .arg(idSchedaSelezionata)
             .arg(idModelloSelezionato);
-    }
-
-private:
-    static void azzera() {
-        using namespace variabiliGlobali;
-        idUtenteSelezionato = idSchedaSelezionata = idModelloSelezionato = 0;
-        nomeModelloSelezionato.clear();
-        inChiusura = false;
     }
 };
