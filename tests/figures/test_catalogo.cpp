@@ -1,6 +1,4 @@
 #include "figures/Figure.h"
-#include "figures/RidimensionatoreImmagini.h"
-#include "support/FakeControls.h"
 #include "support/RecordsTest.h"
 
 using namespace Qt::StringLiterals;
@@ -45,27 +43,6 @@ private Q_SLOTS:
         QVERIFY(!one.carica(99));
         QCOMPARE(one.id_muscolo + u"%1"_s.arg(one.numero), u"QUA1.5"_s);
         QCOMPARE(one.figura_(), program().folder() + u"\\images\\Q\\002.JPG"_s);
-    }
-
-    void fitting() {
-        RidimensionatoreImmagini resizer;
-        QCOMPARE(errorOf([&] { resizer.ridimensiona(); }), 91);
-        resizer.MAX = 100;
-        for (const auto& [before, after] : std::initializer_list<std::pair<QRectF, QRectF>>{
-                 {{0, 0, 200, 100}, {0, 25, 100, 50}},
-                 {{0, 0, 100, 200}, {25, 0, 50, 100}},
-                 {{7, 8, 100, 100}, {7, 8, 100, 100}},
-                 {{10, 20, 40, 20}, {40, 60, 40, 20}},    // a small one is only centred
-                 {{0, 0, 401, 201}, {0, 25, 100, 50}}}) { // whole twips are taken off
-            FakeBox box;
-            box.place = before;
-            resizer.setImage(box);
-            for (int call = 1; call <= 2; ++call) { // the second changes nothing
-                resizer.ridimensiona();
-                QCOMPARE(box.place, after);
-            }
-            QVERIFY(box.visible && box.refreshed == 2);
-        }
     }
 };
 

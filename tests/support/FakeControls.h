@@ -6,7 +6,6 @@
 #include "support/Installed.h"
 
 #include <QHash>
-#include <QRectF>
 #include <QStringList>
 
 // Controls of plain data, for tests of what a record does with one.
@@ -50,22 +49,4 @@ public:
     }
 
     QHash<QString, QString> texts{{QStringLiteral("status"), QString()}};
-};
-
-class FakeBox : public host::Box {
-public:
-    double left() const override { return place.x(); }
-    double top() const override { return place.y(); }
-    double width() const override { return place.width(); }
-    double height() const override { return place.height(); }
-    void setLeft(double twips) override { place.moveLeft(twips); }
-    void setTop(double twips) override { place.moveTop(twips); }
-    void setWidth(double twips) override { place.setWidth(twips); }
-    void setHeight(double twips) override { place.setHeight(twips); }
-    void setVisible(bool on) override { visible = on; }
-    void refresh() override { ++refreshed; }
-
-    QRectF place;
-    bool visible = false;
-    int refreshed = 0;
 };
