@@ -18,7 +18,7 @@ private Q_SLOTS:
     void resolve() {
         for (const auto& name : {u"@/images/FolderXP.JPG"_s, u"@/images/BODYMAP/uno.txt"_s,
                                  u"@/images/BODYMAP/UNO.txt"_s, u"#/Logo.PNG"_s})
-            writeFile(path(name));
+            writeFile(placed(name));
         for (const auto& [stored, file] :
              {std::pair(u"@\\IMAGES\\folderxp.jpg"_s, u"@/images/FolderXP.JPG"_s),
               {u"images\\FolderXP.jpg"_s, u"@/images/FolderXP.JPG"_s},
@@ -28,14 +28,14 @@ private Q_SLOTS:
               {u"@2\\x.JPG"_s, u"@2/x.JPG"_s},
               {u"#/logo.png"_s, u"#/Logo.PNG"_s},
               {QString(), QString()}})
-            QCOMPARE(host::resolve(path(stored)), path(file));
+            QCOMPARE(host::resolve(placed(stored)), placed(file));
     }
 
     void settings() {
-        host::saveSetting(u"General"_s, u"Path"_s, u"/è qui\\con; strani = segni"_s);
-        host::saveSetting(u"General"_s, u"Path"_s, u"/nuovo, \"qui\""_s);
+        const QString path = u"/è nuovo, \"qui\"\\con; strani = segni"_s;
+        host::saveSetting(u"General"_s, u"Path"_s, path);
         const QSettings written(host::settingsFile(), QSettings::IniFormat);
-        QCOMPARE(written.value(u"Path"_s).toString(), u"/nuovo, \"qui\""_s); // "General" is the file's top
+        QCOMPARE(written.value(u"Path"_s).toString(), path); // "General" is the file's top
         QVERIFY(QDir().mkpath(program().settingsFolder() + u"/x/Quiver-Deck.ini"_s)); // a folder in its place
         host::setSettingsFolder(program().settingsFolder() + u"/x"_s);
         QCOMPARE(errorOf([] { host::saveSetting(u"General"_s, u"Path"_s, u"x"_s); }), 75);
@@ -54,7 +54,6 @@ private Q_SLOTS:
         host::startProcess(u"touch"_s, {mark});
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(mark), 60000); // on a busy machine
         QCOMPARE(errorOf([] { host::startProcess(u"/nessun/programma"_s); }), 53);
-        QCOMPARE(errorOf([] { host::startProcess({}); }), 53);
     }
 
     void oneProgramPerFolder() {
@@ -96,7 +95,7 @@ private Q_SLOTS:
 
 private:
     /// @ stands for the program's directory, # for another one.
-    QString path(QString text) const {
+    QString placed(QString text) const {
         return text.replace(u'@', program().folder()).replace(u'#', program().settingsFolder());
     }
 };

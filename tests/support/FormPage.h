@@ -34,8 +34,7 @@ inline void whenModal(std::function<void(toolkit::Form&)> act, int patience = 10
         auto* form = qobject_cast<toolkit::Form*>(QApplication::activeModalWidget());
         if (form == nullptr) { // not yet: whoever opens it may let events through before
             QVERIFY(patience > 0);
-            whenModal(act, patience - 1);
-            return;
+            return whenModal(act, patience - 1);
         }
         act(*form);
         if (form->isVisible()) {
