@@ -13,7 +13,13 @@
 /// Rossi and small pictures.
 class RealProgram : public ScratchProgram, public RunningProgram {
 public:
-    RealProgram() : RunningProgram(file(QStringLiteral("quiverdeck")), environmentIn(home())) {
+    RealProgram()
+        : RunningProgram(file(QStringLiteral("quiverdeck")),
+                         {"QT_QPA_PLATFORM=offscreen:configfile=" + home() + "/screen.json",
+                          "QT_SCALE_FACTOR=1", // the screen is not asked, with a hand of its own
+                          "QT_PLUGIN_PATH=" + home() + "/plugins", "QT_QPA_GENERIC_PLUGINS=hand",
+                          "HOME=" + home(), "XDG_CONFIG_HOME=" + home() + "/config",
+                          "XDG_DATA_HOME=" + home() + "/data", "XDG_RUNTIME_DIR=" + home()}) {
         sql(QStringLiteral("INSERT INTO utenti (nome, cognome, sesso) VALUES ('Anna', 'Rossi', 'F')"));
         givePictures(*this);
         place(PROGRAM, executable);
@@ -26,14 +32,6 @@ public:
     }
     /// A file beside the executable.
     QString file(const QString& name) const { return folder() + u'/' + name; }
-    /// Puts the marker and what an installed copy needs beside the executable. Its data folder is
-    /// "data/quiverdeck" in the folder of the settings.
-    void installCopy() const {
-        place(RENEWER, file(QStringLiteral("quiverdeck-renew-store")));
-        QDir(folder()).mkpath(QStringLiteral("HELP"));
-        writeFile(file(QStringLiteral("quiverdeck.installed")));
-    }
-
     void waitFor(const QString& target) {
         until(target, [&] { return shows(target); });
     }
@@ -77,21 +75,6 @@ private:
         std::filesystem::create_hard_link(from, to.toStdString(), failed);
         if (failed)
             std::filesystem::copy_file(from, to.toStdString());
-    }
-    static QProcessEnvironment environmentIn(const QString& home) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const auto& [name, value] : std::initializer_list<std::pair<const char*, QString>>{
-                 {"QT_QPA_PLATFORM", "offscreen:configfile=" + home + "/screen.json"},
-                 {"QT_SCALE_FACTOR", "1"}, // the screen is not asked, with a hand of its own
-                 {"QT_PLUGIN_PATH", home + "/plugins"},
-                 {"QT_QPA_GENERIC_PLUGINS", "hand"},
-                 {"QUIVERDECK_HAND", home + "/hand"},
-                 {"HOME", home},
-                 {"XDG_CONFIG_HOME", home + "/config"},
-                 {"XDG_DATA_HOME", home + "/data"},
-                 {"XDG_RUNTIME_DIR", home}})
-            environment.insert(QLatin1String(name), value);
-        return environment;
     }
 };
 

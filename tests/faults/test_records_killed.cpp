@@ -18,15 +18,12 @@ const QString actor = u"--acts"_s;
 
 /// Writes, rewrites or deletes a card, or copies a template one way or the other as the editor does.
 void act(std::mt19937& random) {
-    const auto upTo = [&random](unsigned count) { return static_cast<int>(random() % count); };
+    const auto upTo = [&random](unsigned count) { return static_cast<qint32>(random() % count); };
     const auto word = [&random] { return u"parola %1"_s.arg(random()); };
-    const auto anyOf = [&](const QString& key, const QString& table) { // 0 if the store holds none
-        const auto rows = db::comune().getRs(
-            u"SELECT %1 FROM %2 ORDER BY %1 * %3 % 101 LIMIT 1"_s.arg(key, table).arg(upTo(100)));
-        return rows.RecordCount() == 0 ? 0 : rows(key).toInt32();
-    };
+    const auto cards = db::comune().getRs(
+        u"SELECT id_scheda FROM schede ORDER BY id_scheda * %1 % 101 LIMIT 1"_s.arg(upTo(100)));
+    const qint32 key = cards.RecordCount() == 0 ? 0 : cards(u"id_scheda"_s).toInt32();
     scheda card;
-    const qint32 key = anyOf(u"id_scheda"_s, u"schede"_s);
     const int what = upTo(key == 0 ? 2 : 5);
     if (what == 2) {
         card.Elimina(key);
@@ -34,7 +31,7 @@ void act(std::mt19937& random) {
     }
     SchedaModello model;
     if (what == 0) {
-        model.carica(anyOf(u"id_Scheda"_s, u"schedeModello"_s));
+        model.carica(1);
         model.caricaEsercizi();
         model.travasaTo(card, false);
     } else if (what > 2) {
@@ -53,11 +50,10 @@ void act(std::mt19937& random) {
         return;
     }
     if (card.esercizi->Count() > 0)
-        card.EliminaEsercizio(static_cast<qint16>(1 + upTo(static_cast<unsigned>(card.esercizi->Count()))));
+        card.EliminaEsercizio(1);
     for (int lines = 1 + upTo(4); lines > 0; --lines) {
         auto line = std::make_shared<Esercizio>();
         line->id_fig = 1 + upTo(4);
-        line->serie = static_cast<quint8>(upTo(100));
         line->note = word();
         card.esercizi->Add(line);
     }
@@ -68,7 +64,8 @@ void act(std::mt19937& random) {
 void actUntilKilled(const QString& folder, unsigned seed) {
     ScriptedBoxes boxes;
     boxes.onUnexpected = [](const QString& text) {
-        qCritical("%s", qPrintable(text)), std::_Exit(EXIT_FAILURE);
+        std::fputs(qPrintable(text), stderr);
+        std::_Exit(EXIT_FAILURE);
     };
     host::setProgramDirectory(folder);
     db::comune().dbName = u"splash.ps"_s;
@@ -89,12 +86,7 @@ private Q_SLOTS:
         const ScratchProgram model; // what must be held
         const ScratchProgram program;
         for (const ScratchProgram* one : {&model, &program})
-            one->sql(
-                u"INSERT INTO utenti (nome, cognome) VALUES ('Anna','Rossi'),('Ugo','Verdi');"
-                "INSERT INTO schede (id_utente, id_cat, Istruttore, FreqAllen) VALUES (1,1,'',3),(2,2,'',3);"
-                "INSERT INTO Esercizi (NProg, ID_Scheda, ID_Fig, Durata, Frequenza, Ampiezza, isLibero)"
-                " VALUES (1,1,1,'30 sec','30 Hz','Low',0),(1,2,2,'45 sec','','',0),(2,2,3,'','','',0);"_s);
-
+            one->sql(u"INSERT INTO utenti (nome, cognome) VALUES ('Anna','Rossi')"_s);
         std::mt19937 random(seed);
         const auto moment = 1 + random() % 40;
         constexpr int patience = 60000; // ms

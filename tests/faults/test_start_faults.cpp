@@ -64,15 +64,12 @@ void hold(const RealProgram& program) {
 /// last copy.
 Damage tangled(int seconds) {
     return [seconds](const RealProgram& program) {
-        const QString path = program.store();
-        const QDateTime date = QFileInfo(path).lastModified();
+        const std::filesystem::path store = program.store().toStdString();
+        const auto date = std::filesystem::last_write_time(store);
         program.sql(u"INSERT INTO Parametri VALUES ('CAMBIO_RISOLUZIONE', '8');" // counts no more
                     "PRAGMA writable_schema = ON; UPDATE sqlite_master SET rootpage = (SELECT rootpage"
                     " FROM sqlite_master WHERE name = 'Esercizi') WHERE name = 'EserciziModello'"_s);
-        QFile file(path);
-        if (!file.open(QIODevice::ReadWrite) ||
-            !file.setFileTime(date.addSecs(seconds), QFile::FileModificationTime))
-            throw std::runtime_error("no damage");
+        std::filesystem::last_write_time(store, date + std::chrono::seconds(seconds));
     };
 }
 
@@ -96,7 +93,8 @@ private Q_SLOTS:
     void startMeets_data() {
         QTest::addColumn<Fault>("fault");
         const auto row = [](const char* name, const Fault& fault) { QTest::newRow(name) << fault; };
-        const QString data = u"../../impostazioni/data/quiverdeck/"_s; // of an installed copy
+        const QString data =
+            u"../../impostazioni/data/quiverdeck/splash.ps"_s; // the user's, of an installed copy
         const QStringList lost = {notAStore, offer, putBack};
         row("store missing", {{u"Impossibile aprire l’archivio"_s, offer, putBack},
                               End::Splash,
@@ -126,17 +124,12 @@ private Q_SLOTS:
         row("newer store, installed",
             {{u"L’archivio «splash.ps» è stato creato da una versione più recente"_s},
              End::Refused,
-             [data](RealProgram& p) {
-                 p.installCopy();
-                 p.start(); // fills the user's folder
-                 p.leave();
-                 QByteArray newer = readFile(p.file(data + storeName));
-                 newer[63] = '\x02'; // the schema's number
-                 writeFile(p.file(data + storeName), newer);
-                 // A later installation, of which nothing is taken.
-                 writeFile(p.file(u"images/Q/001.JPG"_s), picture);
+             [data](const RealProgram& p) {
+                 writeFile(p.file(u"quiverdeck.installed"_s));
+                 p.sql(u"PRAGMA user_version = 2"_s);
+                 writeFile(p.file(data), readFile(p.store()));
              },
-             data + u"images/Q/001.JPG"_s});
+             data});
         row("folder read-only", {{cannotWrite}, End::Refused, readOnly({})});
         row("store read-only", {{u"L’archivio è di sola lettura"_s}, End::Works, readOnly(storeName)});
         row("backups unwritable", {{u"La copia di sicurezza dell’archivio non è riuscita."_s},

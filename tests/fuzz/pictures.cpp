@@ -38,13 +38,9 @@ void fuzz::pictures(const QByteArray& input) {
         own = picture.size();
         whole = picture.whole();
         fitted = picture.fitted({60, 40});
-        return 0;
     });
     sheet::Picture printed; // in 60 × 40 pixels, 240 × 160 for the printer
-    const int unprinted = errorOf([&] {
-        printed = sheet::Picture::fromFile(path, {900, 600});
-        return 0;
-    });
+    const int unprinted = errorOf([&] { printed = sheet::Picture::fromFile(path, {900, 600}); });
     for (const int error : {refused, unprinted})
         require(error == 0 || error == PictureFile::badPicture, "a picture or a bad picture");
     if (refused == 0) {

@@ -1,7 +1,6 @@
 #include "fuzz/Fuzz.h"
+#include "support/Files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -11,49 +10,29 @@ namespace {
 
 using Target = void (*)(const QByteArray&);
 
-/// Makes inputs from a corpus, by mutation, crossing and numbers at the edges.
-class Generator {
-public:
-    Generator(const QList<QByteArray>& corpus, quint32 seed) : corpus_(corpus), random_(seed) {}
-
-    QByteArray next() {
-        QByteArray input = any(corpus_);
-        for (int n = random_.bounded(6); n > 0; --n)
-            mutate(input);
-        return input;
+/// An input of the corpus with some pieces replaced: by nothing, by what stands there, by a piece of another
+/// input, by a number at an edge, by any byte.
+QByteArray anyInput(const QList<QByteArray>& corpus, QRandomGenerator& random) {
+    static const auto edges =
+        QByteArray("-1 256 29 1.5 0000 32767 32768 2147483647 2147483648 1e999 9999").split(' ');
+    const auto any = [&random](const QList<QByteArray>& list) {
+        return list.at(random.bounded(list.size()));
+    };
+    QByteArray input = any(corpus);
+    for (int n = random.bounded(6); n > 0; --n) {
+        const qsizetype at = random.bounded(input.size() + 1);
+        const QByteArray byte(1, static_cast<char>(random.bounded(256)));
+        const QByteArray pieces[] = {{}, input.mid(at, 16), any(corpus).mid(at, 16), any(edges), byte};
+        input.replace(at, random.bounded(8) * random.bounded(3), pieces[random.bounded(5)]);
     }
-
-private:
-    const QByteArray& any(const QList<QByteArray>& list) { return list.at(random_.bounded(list.size())); }
-    void mutate(QByteArray& input) {
-        static const auto edges =
-            QByteArray("-1 256 29 1.5 0000 32767 32768 2147483647 2147483648 1e999 9999").split(' ');
-        const qsizetype at = random_.bounded(input.size() + 1);
-        const int way = random_.bounded(6);
-        if (way == 0)
-            input.remove(at, random_.bounded(16));
-        else if (way == 1)
-            input.insert(at, input.mid(at, random_.bounded(16)));
-        else if (way == 2)
-            input.replace(at, random_.bounded(16), any(corpus_).mid(at, 16));
-        else if (way == 3)
-            input.replace(at, random_.bounded(4), any(edges));
-        else if (way == 4 || at == input.size())
-            input.insert(at, static_cast<char>(random_.bounded(256)));
-        else
-            input[at] = static_cast<char>(input[at] ^ (1 << random_.bounded(8)));
-    }
-
-    QList<QByteArray> corpus_;
-    QRandomGenerator random_;
-};
+    return input;
+}
 
 QList<QByteArray> corpusOf(const QString& target) {
     const QDir folder(qEnvironmentVariable("QUIVERDECK_SOURCE") + u"/tests/fuzz/corpus/"_s + target);
     QList<QByteArray> corpus;
     for (const QString& name : folder.entryList(QDir::Files, QDir::Name))
-        if (QFile file(folder.filePath(name)); file.open(QIODevice::ReadOnly))
-            corpus += file.readAll();
+        corpus += readFile(folder.filePath(name));
     return corpus;
 }
 
@@ -80,10 +59,10 @@ private Q_SLOTS:
         const QList<QByteArray> corpus = name == u"pictures" ? fuzz::pictureSeeds() : corpusOf(name);
         QVERIFY(!corpus.isEmpty());
         const QByteArray seed = qEnvironmentVariable("QUIVERDECK_SEED", u"20261123"_s).toLatin1();
-        Generator generator(corpus, seed.toUInt());
+        QRandomGenerator random(seed.toUInt());
         const int all = qEnvironmentVariableIsSet("QUIVERDECK_LONG") ? times * 100 : times;
         for (int n = 0; n < all + corpus.size(); ++n) {
-            const QByteArray input = n < corpus.size() ? corpus.at(n) : generator.next();
+            const QByteArray input = n < corpus.size() ? corpus.at(n) : anyInput(corpus, random);
             try {
                 run(input);
             } catch (const std::exception& failure) {

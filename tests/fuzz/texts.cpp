@@ -17,19 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The longest numeric prefix, read by the standard library.
-double prefix(const QString& text) {
-    std::string plain;
-    for (const QChar c : text)
-        if (!c.isSpace())
-            plain += c.unicode() < 0x80 ? static_cast<char>(c.unicode()) : '?';
-    const bool plus = plain.starts_with('+');
-    const std::string number = plain.substr(plus ? 1 : 0);
-    const std::size_t first = !plus && number.starts_with('-') ? 1 : 0;
-    if (number.size() <= first || !QByteArrayView("0123456789.").contains(number[first]))
-        return 0;
+/// The longest numeric prefix, read by the standard library. Blanks do not count, and one sign may stand
+/// first.
+double prefix(QString text) {
+    static const QRegularExpression number(u"^(?:\\+(?!-))?(-?[0-9.].*)"_s);
+    text.removeIf([](QChar c) { return c.isSpace(); });
+    const QByteArray plain = number.match(text).captured(1).toLatin1();
     double value = 0;
-    std::from_chars(number.data(), number.data() + number.size(), value);
+    std::from_chars(plain.begin(), plain.end(), value);
     return value;
 }
 
@@ -150,16 +145,12 @@ void fuzz::days(const QByteArray& input) {
     const int length = input.isEmpty() || input[0] >= '0' ? usual : input[0] & 15;
     const QString text = QString::fromUtf8(input);
     FakeCheckList list(length);
-    const int error = errorOf([&] {
-        GGAllenHELPER::scriviGGAllen(text, list);
-        return 0;
-    });
+    const int error = errorOf([&] { GGAllenHELPER::scriviGGAllen(text, list); });
     require(error == (text.mid(length).contains(u'1') ? runtime::SubscriptOutOfRange : 0),
             "a tick behind the list is an error, and nothing else is");
-    QString wanted(length, u'0');
-    for (int i = 0; i < std::min<qsizetype>(length, text.size()); ++i)
-        if (text[i] == u'1')
-            wanted[i] = u'1';
+    QString wanted = text.left(length).leftJustified(length);
+    for (QChar& day : wanted)
+        day = day == u'1' ? day : QChar(u'0');
     require(GGAllenHELPER::leggiGGAllen(list) == wanted, "the ticks are the string's, and read back as it");
 
     QString printed;

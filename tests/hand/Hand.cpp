@@ -9,7 +9,6 @@
 #include <QLocalSocket>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QRegularExpression>
 #include <QTabBar>
 
 using namespace Qt::StringLiterals;
@@ -140,7 +139,6 @@ void write(QWidget& widget, const QString& text) {
 /// Each field by the name of its page and its own. Parts of our controls, as the line of a combo box, have no
 /// name of ours and are left out.
 QJsonObject texts(const QString& window) {
-    static const QRegularExpression foreign(u"^(qt_.*)?$"_s);
     QJsonObject found;
     for (const QWidget* widget : showing(window)) {
         const bool isField = widget->inherits("QLineEdit") || widget->inherits("QPlainTextEdit") ||
@@ -148,8 +146,9 @@ QJsonObject texts(const QString& window) {
         const QWidget* page = widget;
         while (!page->isWindow() && !page->inherits("toolkit::Form"))
             page = page->parentWidget();
-        if (isField && !foreign.match(widget->objectName()).hasMatch())
-            found[page->objectName() + u'/' + widget->objectName()] = textOf(*widget);
+        const QString name = widget->objectName();
+        if (isField && !name.isEmpty() && !name.startsWith("qt_"_L1))
+            found[page->objectName() + u'/' + name] = textOf(*widget);
     }
     return found;
 }

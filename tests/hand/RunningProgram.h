@@ -6,10 +6,10 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QThread>
 
 #include <functional>
-#include <memory>
 #include <stdexcept>
 
 /// The real program in a process of its own, with a hand inside that tells and acts (see Hand, also for the
@@ -21,16 +21,17 @@ public:
     std::function<void()> before;
 
     void start() {
-        if (!server_.isListening() && !server_.listen(environment_.value(QStringLiteral("QUIVERDECK_HAND"))))
+        const QString socket = place_.filePath(QStringLiteral("hand"));
+        if (!server_.isListening() && !server_.listen(socket))
             fail("no socket for the hand");
-        process_.setProcessEnvironment(environment_);
         process_.setProcessChannelMode(QProcess::ForwardedChannels);
         process_.setChildProcessModifier(before);
         process_.setWorkingDirectory(QStringLiteral("/")); // the program finds its folder by itself
-        process_.start(executable, {});
+        process_.start(QStringLiteral("/usr/bin/env"),
+                       environment_ + QStringList{"QUIVERDECK_HAND=" + socket, executable});
         if (!server_.waitForNewConnection(patience))
             fail("the program is not reached");
-        hand_.reset(server_.nextPendingConnection());
+        hand_ = server_.nextPendingConnection();
     }
     /// Ends it at once, as a power cut would; `start` starts another one.
     void kill() {
@@ -66,8 +67,8 @@ public:
     [[noreturn]] static void fail(const QString& what) { throw std::runtime_error(what.toStdString()); }
 
 protected:
-    /// The environment names the hand's plug-in and its socket, QUIVERDECK_HAND.
-    RunningProgram(const QString& path, const QProcessEnvironment& environment)
+    /// The environment, whether inherited or added ("NAME=value"), names the hand's plug-in.
+    explicit RunningProgram(const QString& path, const QStringList& environment = {})
         : executable(path), environment_(environment) {}
     ~RunningProgram() {
         process_.kill();
@@ -77,8 +78,9 @@ protected:
 private:
     static constexpr int patience = 60000; // ms
 
-    QProcessEnvironment environment_;
+    QStringList environment_;
+    QTemporaryDir place_;
     QProcess process_;
     QLocalServer server_;
-    std::unique_ptr<QLocalSocket> hand_;
+    QLocalSocket* hand_ = nullptr; ///< the server's
 };

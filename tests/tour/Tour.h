@@ -13,8 +13,7 @@ class Tour : public RunningProgram {
 public:
     /// `folder` is the program's folder, `to` takes the screenshots.
     Tour(const QString& folder, const QString& to)
-        : RunningProgram(folder + QStringLiteral("/quiverdeck"), QProcessEnvironment::systemEnvironment()),
-          pictures(to) {
+        : RunningProgram(folder + QStringLiteral("/quiverdeck")), pictures(to) {
         QDir(pictures).mkpath(QStringLiteral("finestre"));
     }
 
@@ -29,32 +28,32 @@ public:
         });
         return place;
     }
-    void click(const QString& target) { drag(target, 0, 0); }
-    /// Presses on `from`, moves in small steps, and lets go on `to`, or so many pixels away.
+    void click(const QString& target) { drag(target, target); }
+    /// Presses on `from`, moves in small steps, and lets go on `to`.
     void drag(const QString& from, const QString& to) {
         const QJsonObject start = where(from);
-        const QJsonObject end = where(to);
-        drag(from, end["x"].toInt() - start["x"].toInt(), end["y"].toInt() - start["y"].toInt());
-    }
-    void drag(const QString& from, int dx, int dy) {
-        constexpr int steps = 12; // the toolkit wants more than one
-        const QJsonObject start = where(from);
-        for (int step = 0; step <= steps && (step == 0 || dx != 0 || dy != 0); ++step) {
-            pointer(QStringLiteral("mousemove --sync %1 %2")
-                        .arg(start["x"].toInt() + dx * step / steps)
-                        .arg(start["y"].toInt() + dy * step / steps));
-            if (step == 0)
-                pointer(QStringLiteral("mousedown 1"));
-            else
-                see(from); // the program has taken the move
+        const QJsonObject end = from == to ? start : where(to);
+        const int steps = from == to ? 0 : 12; // the toolkit wants more than one
+        const auto moveTo = [&](int step) {
+            const auto on = [&](const char* axis) {
+                return start[axis].toInt() +
+                       (end[axis].toInt() - start[axis].toInt()) * step / std::max(1, steps);
+            };
+            pointer(QStringLiteral("mousemove --sync %1 %2").arg(on("x")).arg(on("y")));
+        };
+        moveTo(0);
+        pointer("mousedown 1");
+        for (int step = 1; step <= steps; ++step) {
+            moveTo(step);
+            see(from); // the program has taken the move
         }
-        pointer(QStringLiteral("mouseup 1"));
+        pointer("mouseup 1");
     }
     /// Clicks into a field, selects what stands there, and types.
     void fill(const QString& target, const QString& text) {
         click(target);
         until("the focus of " + target, [&] { return see(target)["focus"].toBool(); });
-        pointer(QStringLiteral("key ctrl+a type --delay 8"), {text});
+        pointer("key ctrl+a type --delay 8", {text});
         reads(target, text.right(4));
     }
 
@@ -67,10 +66,11 @@ public:
         until("the window " + name, [&] { return see(name)["active"].toBool(); });
     }
     /// Clicks, waits for the window that comes, and takes its picture.
-    void go(const QString& target, const QString& name, const QString& picture = {}) {
+    void go(const QString& target, const QString& name, const QString& picture = {},
+            const QStringList& portraits = {}) {
         click(target);
         window(name);
-        shot(picture);
+        shot(picture, portraits);
     }
     /// The same by a menu, with a picture of that.
     void menu(const QString& title, const QString& item, const QString& name, const QString& picture) {
@@ -80,9 +80,10 @@ public:
         go(item, name);
     }
     /// Presses keys and waits for a window.
-    void key(const QString& keys, const QString& name) {
+    void key(const QString& keys, const QString& name, const QString& picture = {}) {
         pointer("key " + keys);
         window(name);
+        shot(picture);
     }
     /// Waits for a message box of that text and presses `button`.
     void box(const QString& said, const QString& button, const QString& picture = {}) {
