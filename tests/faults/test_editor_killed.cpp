@@ -20,11 +20,8 @@ void perform(RealProgram& program, const QStringList& act) {
 }
 
 /// What the editor shows, for a comparison that tells the difference.
-QStringList lines(const QJsonObject& shown) {
-    QStringList lines;
-    for (const QString& field : shown.keys())
-        lines += field + u": "_s + shown[field].toString();
-    return lines;
+QList<QByteArray> lines(const QJsonObject& shown) {
+    return QJsonDocument(shown).toJson().split('\n');
 }
 
 /// A button of a row, the list moved down or up by one screen, Salva; or, half of the time, a text.

@@ -17,7 +17,7 @@ const Stop stops[] = {
     {u"QUA_2"_s, u"3"_s, u"1"_s, u"30"_s, u"Ginocchia in linea con i piedi, sguardo avanti."_s},
     {u"GLU_2"_s, u"3"_s, u"1"_s, u"0"_s, u"Salire spingendo sull'avampiede."_s},
     {u"Add_1"_s, u"2"_s, u"0"_s, u"45"_s, u"Respirare sempre: mai trattenere il fiato."_s},
-    {u"DOR_0"_s, u"3"_s, u"1"_s, u"0"_s, {}},
+    {u"DOR_0"_s, u"3"_s, u"1"_s, u"0"_s, u"Scapole vicine, collo lungo."_s},
     {u"PET_5"_s, u"2"_s, u"1"_s, u"15"_s, u"Perché funzioni, le scapole restano basse."_s},
 };
 
@@ -28,10 +28,10 @@ void enterNames(Tour& tour) {
         u"convert -size 380x380 xc:white -quality 92 -fill #f4d35e -stroke #1f6f8b -strokewidth 60 -draw"_s,
         {u"circle 190,190 190,35"_s, logo});
     tour.menu(u"mnuQDK"_s, u"mnuQDKPersonalizza"_s, u"frmPersonalizza"_s, u"menu-programma"_s);
-    tour.fill(u"frmPersonalizza/nome"_s, u"Palestra Il Cigno"_s);
-    tour.fill(u"frmPersonalizza/responsabile"_s, u"Anna Però e figli"_s);
+    tour.fill(
+        {{u"frmPersonalizza/nome"_s, u"Palestra Il Cigno"_s}, {u"responsabile"_s, u"Anna Però e figli"_s}});
     tour.go(u"cmdApriIMG"_s, u"fileDialog"_s);
-    tour.fill(u"fileNameEdit"_s, logo);
+    tour.fill({{u"fileNameEdit"_s, logo}});
     tour.key(u"Return"_s, u"frmPersonalizza"_s);
     tour.where(u"frmPersonalizza/logo"_s);
     tour.shot(u"palestra"_s, {u"frmPersonalizza"_s});
@@ -39,9 +39,9 @@ void enterNames(Tour& tour) {
 
     tour.menu(u"mnuUtenti"_s, u"mnuUtentiGestione"_s, u"UtentiSelezione"_s, u"menu-utenti"_s);
     tour.go(u"UtentiSelezione/nuovo"_s, u"UtentiNuovo"_s);
-    tour.fill(u"txtNome"_s, u"Niccolò"_s);
-    tour.fill(u"txtCognome"_s, u"D'Amico Bellini"_s);
-    tour.fill(u"txtNote"_s, u"Ginocchio destro operato: niente salti. Perché migliori, sedute brevi."_s);
+    tour.fill({{u"txtNome"_s, u"Niccolò"_s},
+               {u"txtCognome"_s, u"D'Amico Bellini"_s},
+               {u"txtNote"_s, u"Ginocchio destro operato: niente salti. Perché migliori, sedute brevi."_s}});
     tour.click(u"optM"_s);
     tour.shot(u"atleta"_s, {u"UtentiNuovo"_s});
     tour.go(u"CmdSave"_s, u"UtentiSelezione"_s);
@@ -53,33 +53,32 @@ void enterNames(Tour& tour) {
 /// Finds the tour's own athlete by typing and takes it with Enter.
 void chooseAthlete(Tour& tour, const QString& button, const QString& window) {
     tour.go(button, u"UtentiSelezione"_s);
-    tour.fill(u"Ricerca"_s, u"d`am"_s);
+    tour.fill({{u"Ricerca"_s, u"d`am"_s}});
     tour.key(u"Return"_s, window);
 }
 
 void writeCard(Tour& tour) {
     chooseAthlete(tour, u"Principale/nuova"_s, u"mdiScheda"_s);
     tour.shot(u"scheda-nuova"_s);
-    tour.fill(u"SchedaIntestazione/Obiettivo"_s, u"Forza e tono dell'arto inferiore"_s);
-    tour.fill(u"Istruttore"_s, u"Marta D'Amico"_s);
+    tour.fill({{u"SchedaIntestazione/Obiettivo"_s, u"Forza e tono dell'arto inferiore"_s},
+               {u"Istruttore"_s, u"Marta D'Amico"_s}});
     Tour::check(!tour.text(u"Istruttore"_s).contains(u'\''), u"straight apostrophes are guarded"_s);
     tour.click(u"apriGGAllen"_s);
     for (const QString& day : {u"2"_s, u"4"_s, u"6"_s})
         tour.click(u"GGAllen#row:"_s + day);
     tour.shot(u"giorni"_s);
     tour.click(u"apriGGAllen"_s);
-    tour.fill(u"SchedaIntestazione/note"_s, u"Bere spesso. Dopo tre settimane si rivede il programma."_s);
+    tour.fill({{u"SchedaIntestazione/note"_s, u"Bere spesso. Dopo tre settimane si rivede il programma."_s}});
 
     int first = 1;
     for (const Stop& stop : stops) {
         tour.click(u"BodyMap1/"_s + stop.area);
         for (const QString& row : {u"0"_s, u"1"_s}) {
             tour.drag(u"twImage#row:"_s + row, u"SchedaCorpo/figura_"_s + row);
-            tour.fill(u"SchedaCorpo/serie_"_s + row, stop.series);
-            tour.fill(u"SchedaCorpo/recuperoMin_"_s + row, stop.minutes);
-            tour.fill(u"SchedaCorpo/recuperoSec_"_s + row, stop.seconds);
-            if (!stop.note.isEmpty())
-                tour.fill(u"SchedaCorpo/note_"_s + row, stop.note);
+            tour.fill({{u"SchedaCorpo/serie_"_s + row, stop.series},
+                       {u"SchedaCorpo/recuperoMin_"_s + row, stop.minutes},
+                       {u"SchedaCorpo/recuperoSec_"_s + row, stop.seconds},
+                       {u"SchedaCorpo/note_"_s + row, stop.note}});
         }
         if (first == 1)
             tour.shot(u"esercizi"_s, {u"mdiScheda"_s, u"SchedaIntestazione"_s, u"SchedaCorpo"_s,
@@ -88,7 +87,8 @@ void writeCard(Tour& tour) {
         tour.reads(u"nEsercizio_0"_s, QString::number(first += 2));
     }
     tour.click(u"TipoEsercizio_0#tab:1"_s);
-    tour.fill(u"SchedaCorpo/note_2"_s, u"Defaticamento: cinque minuti di camminata lenta, poi stretching."_s);
+    tour.fill(
+        {{u"SchedaCorpo/note_2"_s, u"Defaticamento: cinque minuti di camminata lenta, poi stretching."_s}});
     tour.shot(u"esercizio-libero"_s);
     tour.reads(u"status"_s, u"Tempo effettivo: 13:00"_s); // of ten exercises
 }
@@ -159,7 +159,7 @@ void useTemplates(Tour& tour) {
     tour.shot(u"figura-ingrandita"_s);
     tour.click(u"SchedaPreviewFigura/cmdClose"_s);
     tour.go(u"SalvaSuModello"_s, u"SchedeMODELLONuova"_s);
-    tour.fill(u"descrizione"_s, u"Forza per chi ricomincia"_s);
+    tour.fill({{u"descrizione"_s, u"Forza per chi ricomincia"_s}});
     tour.shot(u"modello-nuovo"_s, {u"SchedeMODELLONuova"_s});
     tour.click(u"SchedeMODELLONuova/cmdOk"_s);
     tour.box(u"Creata la nuova Scheda Modello 'Forza per chi ricomincia'"_s, u"OK"_s);
@@ -169,7 +169,6 @@ void useTemplates(Tour& tour) {
     tour.click(u"LW#item:Forza per chi ricomincia"_s);
     tour.shot(u"modelli-gestione"_s);
     tour.go(u"SchedeMODELLOSelezione/modifica"_s, u"mdiScheda"_s, u"modello-aperto"_s);
-    tour.reads(u"descrizione"_s, u"Forza per chi ricomincia"_s);
     leaveCard(tour, u"Sì"_s);
 }
 
@@ -209,8 +208,7 @@ int main(int argc, char* argv[]) {
     try {
         Tour tour(folder, QCoreApplication::arguments().value(2));
         tour.start();
-        tour.window(u"Principale"_s);
-        tour.shot(u"principale"_s, {u"Principale"_s});
+        tour.window(u"Principale"_s, u"principale"_s, {u"Principale"_s});
         for (const auto stage :
              {enterNames, writeCard, loseRestoreAndSave, print, findItAgain, useTemplates, lookRound})
             stage(tour);

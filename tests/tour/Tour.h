@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPoint>
 
 #include <utility>
 
@@ -31,46 +32,42 @@ public:
     void click(const QString& target) { drag(target, target); }
     /// Presses on `from`, moves in small steps, and lets go on `to`.
     void drag(const QString& from, const QString& to) {
-        const QJsonObject start = where(from);
-        const QJsonObject end = from == to ? start : where(to);
-        const int steps = from == to ? 0 : 12; // the toolkit wants more than one
-        const auto moveTo = [&](int step) {
-            const auto on = [&](const char* axis) {
-                return start[axis].toInt() +
-                       (end[axis].toInt() - start[axis].toInt()) * step / std::max(1, steps);
-            };
-            pointer(QStringLiteral("mousemove --sync %1 %2").arg(on("x")).arg(on("y")));
-        };
-        moveTo(0);
-        pointer("mousedown 1");
-        for (int step = 1; step <= steps; ++step) {
-            moveTo(step);
+        const QPoint start = placeOf(from);
+        const QPoint way = from == to ? QPoint() : placeOf(to) - start;
+        constexpr int steps = 12; // the toolkit wants more than one; a click takes none
+        for (int step = 0; step <= (from == to ? 0 : steps); ++step) {
+            const QPoint at = start + way * step / steps;
+            pointer(QStringLiteral("mousemove --sync %1 %2").arg(at.x()).arg(at.y()));
+            if (step == 0)
+                pointer("mousedown 1");
             see(from); // the program has taken the move
         }
         pointer("mouseup 1");
     }
-    /// Clicks into a field, selects what stands there, and types.
-    void fill(const QString& target, const QString& text) {
-        click(target);
-        until("the focus of " + target, [&] { return see(target)["focus"].toBool(); });
-        pointer("key ctrl+a type --delay 8", {text});
-        reads(target, text.right(4));
+    /// Clicks into each field, selects what stands there, and types.
+    void fill(const QList<std::pair<QString, QString>>& fields) {
+        for (const auto& [field, text] : fields) {
+            click(field);
+            until("the focus of " + field, [&] { return see(field)["focus"].toBool(); });
+            pointer("key ctrl+a type --delay 8", {text});
+            reads(field, text.right(4));
+        }
     }
 
     /// Waits until a target's text contains `text`.
     void reads(const QString& target, const QString& text) {
         until(target + " to read " + text, [&] { return this->text(target).contains(text); });
     }
-    /// Waits until the window of that object name is the active one.
-    void window(const QString& name) {
+    /// Waits until the window of that object name is the active one, and takes its picture.
+    void window(const QString& name, const QString& picture = {}, const QStringList& portraits = {}) {
         until("the window " + name, [&] { return see(name)["active"].toBool(); });
+        shot(picture, portraits);
     }
-    /// Clicks, waits for the window that comes, and takes its picture.
+    /// Clicks and waits for the window that comes.
     void go(const QString& target, const QString& name, const QString& picture = {},
             const QStringList& portraits = {}) {
         click(target);
-        window(name);
-        shot(picture, portraits);
+        window(name, picture, portraits);
     }
     /// The same by a menu, with a picture of that.
     void menu(const QString& title, const QString& item, const QString& name, const QString& picture) {
@@ -82,8 +79,7 @@ public:
     /// Presses keys and waits for a window.
     void key(const QString& keys, const QString& name, const QString& picture = {}) {
         pointer("key " + keys);
-        window(name);
-        shot(picture);
+        window(name, picture);
     }
     /// Waits for a message box of that text and presses `button`.
     void box(const QString& said, const QString& button, const QString& picture = {}) {
@@ -99,7 +95,7 @@ public:
         const QString pdf = QStringLiteral("%1/%2.pdf").arg(pictures, file);
         go(name + "/Stampa", QStringLiteral("printerDialog"), picture);
         reads(QStringLiteral("filename"), QStringLiteral(".pdf")); // is proposed
-        fill(QStringLiteral("filename"), pdf);
+        fill({{QStringLiteral("filename"), pdf}});
         click(QStringLiteral("printerDialog#button:Stampa"));
         until("the PDF", [&] { return QFileInfo(pdf).size() > 0; });
         window(name);
@@ -131,6 +127,10 @@ public:
     }
 
 private:
+    QPoint placeOf(const QString& target) {
+        const QJsonObject place = where(target);
+        return {place["x"].toInt(), place["y"].toInt()};
+    }
     /// Moves pointer and keys.
     static void pointer(const QString& words, const QStringList& more = {}) { run("xdotool " + words, more); }
 
