@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void newCardIsSavedWithItsDefaultsAndDroppedFigures() {
         const QDateTime ora = QDateTime::currentDateTime(); // a day that the picker shows before it is set
-        runtime::setClock([&ora] { return ora; });
+        runtime::setClock([&ora] { return QDateTime(ora); });
         const auto orologio = qScopeGuard([] { runtime::setClock({}); });
         apriNuova();
         QCOMPARE(mostrata(0), predefinita);
