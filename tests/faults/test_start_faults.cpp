@@ -80,7 +80,7 @@ struct Fault {
     QStringList told; ///< how the boxes begin; the first one of a start that fails may come several times
     End end = End::Works;
     Damage come;
-    QString file = storeName; ///< whose contents must be kept, be it under another name
+    QString file; ///< whose contents must be kept, be it under another name
 };
 
 } // namespace
@@ -92,63 +92,57 @@ private Q_SLOTS:
     /// row changes.
     void startMeets_data() {
         QTest::addColumn<Fault>("fault");
-        const auto row = [](const char* name, const Fault& fault) { QTest::newRow(name) << fault; };
-        const QString data =
-            u"../../impostazioni/data/quiverdeck/splash.ps"_s; // the user's, of an installed copy
+        const auto row = [](const char* name, const QStringList& told, End end, const Damage& come,
+                            const QString& file = storeName) {
+            QTest::newRow(name) << Fault{told, end, come, file};
+        };
         const QStringList lost = {notAStore, offer, putBack};
-        row("store missing", {{u"Impossibile aprire l’archivio"_s, offer, putBack},
-                              End::Splash,
-                              [](const RealProgram& p) { QFile::remove(p.store()); }});
-        row("store truncated",
-            {lost, End::Splash, [](const RealProgram& p) { QFile::resize(p.store(), 9000); }});
-        row("store of zeros", {lost, End::Splash, contents(storeName, QByteArray(50000, '\0'))});
-        row("store a picture", {lost, End::Splash, contents(storeName, picture)});
-        row("store empty", {{u"Istruzione non riconosciuta dall’archivio"_s, offer, putBack},
-                            End::Splash,
-                            contents(storeName, {})});
-        row("copy damaged too",
-            {{notAStore}, End::Splash, [](const RealProgram& p) {
-                 for (const QString& path : {p.store(), backupsOf(p).copies().first().path})
-                     writeFile(path, picture);
-             }});
-        row("damage that the copy meets", {{offer, putBack}, End::Works, tangled(10)});
-        row("damage without a change", {{offer, putBack}, End::Works, tangled(0)});
-        row("damage without a copy", {{u"L’archivio «splash.ps» è danneggiato e non ne esiste una copia"_s},
-                                      End::Works,
-                                      [](RealProgram& p) {
-                                          QDir(p.file(u"backup"_s)).removeRecursively();
-                                          tangled(0)(p);
-                                      }});
+        row("store missing", {u"Impossibile aprire l’archivio"_s, offer, putBack}, End::Splash,
+            [](const RealProgram& p) { QFile::remove(p.store()); });
+        row("store truncated", lost, End::Splash,
+            [](const RealProgram& p) { QFile::resize(p.store(), 9000); });
+        row("store of zeros", lost, End::Splash, contents(storeName, QByteArray(50000, '\0')));
+        row("store a picture", lost, End::Splash, contents(storeName, picture));
+        row("store empty", {u"Istruzione non riconosciuta dall’archivio"_s, offer, putBack}, End::Splash,
+            contents(storeName, {}));
+        row("copy damaged too", {notAStore}, End::Splash, [](const RealProgram& p) {
+            for (const QString& path : {p.store(), backupsOf(p).copies().first().path})
+                writeFile(path, picture);
+        });
+        row("damage that the copy meets", {offer, putBack}, End::Works, tangled(10));
+        row("damage without a change", {offer, putBack}, End::Works, tangled(0));
+        row("damage without a copy", {u"L’archivio «splash.ps» è danneggiato e non ne esiste una copia"_s},
+            End::Works, [](RealProgram& p) {
+                QDir(p.file(u"backup"_s)).removeRecursively();
+                tangled(0)(p);
+            });
         // Not to be read here: to close the file would let it go.
-        row("store held", {{u"L’archivio è occupato da un altro programma"_s}, End::Splash, hold, {}});
-        row("newer store, installed",
-            {{u"L’archivio «splash.ps» è stato creato da una versione più recente"_s},
-             End::Refused,
-             [data](const RealProgram& p) {
-                 writeFile(p.file(u"quiverdeck.installed"_s));
-                 p.sql(u"PRAGMA user_version = 2"_s);
-                 writeFile(p.file(data), readFile(p.store()));
-             },
-             data});
-        row("folder read-only", {{cannotWrite}, End::Refused, readOnly({})});
-        row("store read-only", {{u"L’archivio è di sola lettura"_s}, End::Works, readOnly(storeName)});
-        row("backups unwritable", {{u"La copia di sicurezza dell’archivio non è riuscita."_s},
-                                   End::Works,
-                                   [](const RealProgram& p) {
-                                       QDir(p.file(u"backup"_s)).removeRecursively();
-                                       writeFile(p.file(u"backup"_s)); // even its owner cannot put that right
-                                   }});
-        row("no room", {{cannotWrite}, End::Refused, [](RealProgram& p) { limitFiles(p, 0); }});
-        row("side file of zeros",
-            {{noSideFile}, End::Works, contents(sideName, QByteArray(5000, '\0')), sideName});
-        row("half a side file", {{noSideFile},
-                                 End::Works,
-                                 contents(sideName, R"({"versione":1,"nome":"Rossi Anna","scheda":{)"),
-                                 sideName});
-        row("side file a folder", {{noSideFile},
-                                   End::Works,
-                                   [](const RealProgram& p) { QDir().mkpath(p.file(sideName)); },
-                                   sideName});
+        row("store held", {u"L’archivio è occupato da un altro programma"_s}, End::Splash, hold, {});
+        const QString data = u"../../impostazioni/data/quiverdeck/splash.ps"_s; // the user's
+        row(
+            "newer store, installed",
+            {u"L’archivio «splash.ps» è stato creato da una versione più recente"_s}, End::Refused,
+            [data](const RealProgram& p) {
+                writeFile(p.file(u"quiverdeck.installed"_s));
+                p.sql(u"PRAGMA user_version = 2"_s);
+                writeFile(p.file(data), readFile(p.store()));
+            },
+            data);
+        row("folder read-only", {cannotWrite}, End::Refused, readOnly({}));
+        row("store read-only", {u"L’archivio è di sola lettura"_s}, End::Works, readOnly(storeName));
+        row("backups unwritable", {u"La copia di sicurezza dell’archivio non è riuscita."_s}, End::Works,
+            [](const RealProgram& p) {
+                QDir(p.file(u"backup"_s)).removeRecursively();
+                writeFile(p.file(u"backup"_s)); // even its owner cannot put that right
+            });
+        row("no room", {cannotWrite}, End::Refused, [](RealProgram& p) { limitFiles(p, 0); });
+        row("side file of zeros", {noSideFile}, End::Works, contents(sideName, QByteArray(5000, '\0')),
+            sideName);
+        row("half a side file", {noSideFile}, End::Works,
+            contents(sideName, R"({"versione":1,"nome":"Rossi Anna","scheda":{)"), sideName);
+        row(
+            "side file a folder", {noSideFile}, End::Works,
+            [](const RealProgram& p) { QDir().mkpath(p.file(sideName)); }, sideName);
     }
     void startMeets() {
         QFETCH(const Fault, fault);

@@ -62,7 +62,8 @@ void writeCard(Tour& tour) {
     tour.shot(u"scheda-nuova"_s);
     tour.fill({{u"SchedaIntestazione/Obiettivo"_s, u"Forza e tono dell'arto inferiore"_s},
                {u"Istruttore"_s, u"Marta D'Amico"_s}});
-    Tour::check(!tour.text(u"Istruttore"_s).contains(u'\''), u"straight apostrophes are guarded"_s);
+    Tour::until(u"straight apostrophes are guarded"_s,
+                [&] { return !tour.text(u"Istruttore"_s).contains(u'\''); });
     tour.click(u"apriGGAllen"_s);
     for (const QString& day : {u"2"_s, u"4"_s, u"6"_s})
         tour.click(u"GGAllen#row:"_s + day);
@@ -116,16 +117,17 @@ void print(Tour& tour) {
     tour.go(u"mdiScheda/stampa"_s, u"PrinterCanvas"_s);
     tour.reads(u"info"_s, u"Pagina 1/2"_s);
     tour.shot(u"anteprima-1"_s, {u"PrinterCanvas"_s});
-    const int before = tour.where(u"canvas"_s)["y"].toInt();
+    const int before = tour.where(u"canvas"_s).y();
     tour.drag(u"canvas#at:8,500"_s, u"canvas#at:8,440"_s);
-    Tour::check(tour.where(u"canvas"_s)["y"].toInt() < before, u"the hand drags the page"_s);
+    Tour::until(u"the hand drags the page"_s, [&] { return tour.where(u"canvas"_s).y() < before; });
     tour.shot(u"anteprima-trascinata"_s);
     tour.click(u"PagSucc"_s);
     tour.reads(u"info"_s, u"Pagina 2/2"_s);
     tour.shot(u"anteprima-2"_s);
     const QString pdf = tour.print(u"PrinterCanvas"_s, u"scheda"_s, u"finestra-di-stampa"_s);
     Tour::run(u"pdftoppm -r 96 -png"_s, {pdf, tour.pictures + u"/foglio"_s});
-    Tour::check(QDir(tour.pictures).entryList({u"foglio-*"_s}).size() == 2, u"the PDF has two sheets"_s);
+    Tour::until(u"the PDF has two sheets"_s,
+                [&] { return QDir(tour.pictures).entryList({u"foglio-*"_s}).size() == 2; });
     tour.go(u"PrinterCanvas/esci"_s, u"mdiScheda"_s);
 }
 
@@ -152,8 +154,8 @@ void useTemplates(Tour& tour) {
     chooseAthlete(tour, u"Principale/nuovaDaModello"_s, u"SchedeMODELLOSelezione"_s);
     tour.shot(u"modelli"_s, {u"SchedeMODELLOSelezione"_s});
     tour.go(u"SchedeMODELLOSelezione/seleziona"_s, u"mdiScheda"_s, u"scheda-da-modello"_s);
-    Tour::check(!tour.text(u"status"_s).contains(u"totale: 00:00"_s),
-                u"the template's exercises are there"_s);
+    Tour::until(u"the template's exercises are there"_s,
+                [&] { return !tour.text(u"status"_s).contains(u"totale: 00:00"_s); });
     tour.click(u"cmdZoom"_s);
     tour.where(u"SchedaPreviewFigura"_s);
     tour.shot(u"figura-ingrandita"_s);
@@ -195,7 +197,7 @@ void lookRound(Tour& tour) {
     }
     tour.key(u"alt+F4"_s, u"Principale"_s);
     tour.click(u"Principale/esci"_s);
-    Tour::check(tour.waitForEnd() == EXIT_SUCCESS, u"the program ends well"_s);
+    Tour::until(u"the program ends well"_s, [&] { return tour.waitForEnd() == EXIT_SUCCESS; });
 }
 
 } // namespace
@@ -212,7 +214,8 @@ int main(int argc, char* argv[]) {
         for (const auto stage :
              {enterNames, writeCard, loseRestoreAndSave, print, findItAgain, useTemplates, lookRound})
             stage(tour);
-        Tour::check(!QFile::exists(folder + u"/splash.ps.aperta"_s), u"no open card is left behind"_s);
+        Tour::until(u"no open card is left behind"_s,
+                    [&] { return !QFile::exists(folder + u"/splash.ps.aperta"_s); });
     } catch (const std::runtime_error& error) {
         std::fprintf(stderr, "The tour ends early: %s\n", error.what());
         return EXIT_FAILURE;

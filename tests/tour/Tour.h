@@ -21,19 +21,19 @@ public:
     const QString pictures;
 
     /// Where a target is, once it is there and does not move any more.
-    QJsonObject where(const QString& target) {
+    QPoint where(const QString& target) {
         QJsonObject place;
         until(target, [&] { // two looks agree: a window manager moves what has just come up
             const QJsonObject last = std::exchange(place, see(target));
             return place == last && place["shows"].toBool();
         });
-        return place;
+        return {place["x"].toInt(), place["y"].toInt()};
     }
     void click(const QString& target) { drag(target, target); }
     /// Presses on `from`, moves in small steps, and lets go on `to`.
     void drag(const QString& from, const QString& to) {
-        const QPoint start = placeOf(from);
-        const QPoint way = from == to ? QPoint() : placeOf(to) - start;
+        const QPoint start = where(from);
+        const QPoint way = from == to ? QPoint() : where(to) - start;
         constexpr int steps = 12; // the toolkit wants more than one; a click takes none
         for (int step = 0; step <= (from == to ? 0 : steps); ++step) {
             const QPoint at = start + way * step / steps;
@@ -114,10 +114,6 @@ public:
             run("convert", {file, "-crop", see(page)["area"].toString(), "+repage",
                             QStringLiteral("%1/finestre/%2.png").arg(pictures, page)});
     }
-    static void check(bool holds, const QString& what) {
-        if (!holds)
-            fail("not so: " + what);
-    }
     /// Runs another program, which must succeed; what holds blanks stands in `more`.
     static void run(const QString& command, const QStringList& more = {}) {
         QStringList words = command.split(u' ');
@@ -127,10 +123,6 @@ public:
     }
 
 private:
-    QPoint placeOf(const QString& target) {
-        const QJsonObject place = where(target);
-        return {place["x"].toInt(), place["y"].toInt()};
-    }
     /// Moves pointer and keys.
     static void pointer(const QString& words, const QStringList& more = {}) { run("xdotool " + words, more); }
 
