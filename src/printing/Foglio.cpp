@@ -27,7 +27,7 @@ Foglio::Foglio(const QString& name, QWidget* parent, const sheet::Surface& surfa
     setObjectName(name);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    resize(sizeHint());
+    resize(surface_.pixels());
 }
 
 QSize Foglio::sizeHint() const {

@@ -72,7 +72,7 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
     setAttribute(Qt::AA_DontUseNativeDialogs);
     setAttribute(Qt::AA_DontUseNativeMenuBar);
     setStyle(new QuiverStyle);
-    setPalette(QuiverStyle::colours()); // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the style is owned
+    setPalette(QuiverStyle::colours());
     setFont(formFont());
     setQuitOnLastWindowClosed(false);
 }
