@@ -57,6 +57,13 @@ void chooseAthlete(Tour& tour, const QString& button, const QString& window) {
     tour.key(u"Return"_s, window);
 }
 
+/// The editor comes up before its pages, which the picture must show.
+void openEditor(Tour& tour, const QString& target, const QString& picture) {
+    tour.go(target, u"mdiScheda"_s);
+    tour.where(u"SchedaCorpo"_s);
+    tour.shot(picture);
+}
+
 void writeCard(Tour& tour) {
     chooseAthlete(tour, u"Principale/nuova"_s, u"mdiScheda"_s);
     tour.shot(u"scheda-nuova"_s);
@@ -143,7 +150,7 @@ void findItAgain(Tour& tour) {
     tour.window(u"Principale"_s);
     chooseAthlete(tour, u"Principale/apri"_s, u"SchedeSelezione"_s);
     tour.shot(u"elenco-schede"_s, {u"SchedeSelezione"_s});
-    tour.go(u"SchedeSelezione/seleziona"_s, u"mdiScheda"_s, u"scheda-riaperta"_s);
+    openEditor(tour, u"SchedeSelezione/seleziona"_s, u"scheda-riaperta"_s);
     tour.reads(u"SchedaIntestazione/Obiettivo"_s, u"Forza e tono"_s);
     tour.reads(u"SchedaCorpo/recuperoSec_1"_s, u"30"_s);
     tour.reads(u"status"_s, u"Tempo effettivo: 13:00"_s);
@@ -153,7 +160,7 @@ void findItAgain(Tour& tour) {
 void useTemplates(Tour& tour) {
     chooseAthlete(tour, u"Principale/nuovaDaModello"_s, u"SchedeMODELLOSelezione"_s);
     tour.shot(u"modelli"_s, {u"SchedeMODELLOSelezione"_s});
-    tour.go(u"SchedeMODELLOSelezione/seleziona"_s, u"mdiScheda"_s, u"scheda-da-modello"_s);
+    openEditor(tour, u"SchedeMODELLOSelezione/seleziona"_s, u"scheda-da-modello"_s);
     Tour::until(u"the template's exercises are there"_s,
                 [&] { return !tour.text(u"status"_s).contains(u"totale: 00:00"_s); });
     tour.click(u"cmdZoom"_s);
@@ -170,7 +177,7 @@ void useTemplates(Tour& tour) {
     tour.menu(u"mnuSchede"_s, u"mnuSchedeGestioneModello"_s, u"SchedeMODELLOSelezione"_s, u"menu-schede"_s);
     tour.click(u"LW#item:Forza per chi ricomincia"_s);
     tour.shot(u"modelli-gestione"_s);
-    tour.go(u"SchedeMODELLOSelezione/modifica"_s, u"mdiScheda"_s, u"modello-aperto"_s);
+    openEditor(tour, u"SchedeMODELLOSelezione/modifica"_s, u"modello-aperto"_s);
     leaveCard(tour, u"Sì"_s);
 }
 
