@@ -1,6 +1,5 @@
 #include "cards/mdiScheda.h"
 #include "core/CopieArchivio.h"
-#include "core/Guida.h"
 #include "core/Main.h"
 #include "core/Principale.h"
 #include "core/variabiliGlobali.h"
@@ -38,7 +37,6 @@ private Q_SLOTS:
         QVERIFY(!frmSplash::esiste() && Principale::comune().isVisible());
         QVERIFY(mdiScheda::comune().isLoaded() && !mdiScheda::comune().isVisible() &&
                 !variabiliGlobali::inChiusura);
-        QCOMPARE(guida::file, program().folder() + u"\\HELP\\HELP.hlp"_s);
         QCOMPARE(QSettings(host::settingsFile(), QSettings::IniFormat).value(u"Path"_s).toString(),
                  program().folder());
         QCOMPARE(

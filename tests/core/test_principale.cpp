@@ -50,22 +50,13 @@ private Q_SLOTS:
         WindowPage(mdiScheda::comune()).press(u"fine"_s);
         QCOMPARE(shown(), u"1 0 0"_s);
         idUtenteSelezionato = 2;
+        whenModal([](toolkit::Form& form) { form.unload(); });
+        menu(u"mnuSchedeGestioneModello"_s); // forgets the athlete as well
+        QCOMPARE(shown(), u"1 0 0"_s);
+        idUtenteSelezionato = 2;
         whenAthletes(-1);
         menu(u"mnuSchedeNuova"_s); // the earlier athlete is still in force
         QCOMPARE(shown(), u"0 1 2"_s);
-    }
-
-    void cardFromATemplate() {
-        for (const int answer : {-1, 1}) {
-            whenModal([answer](toolkit::Form& form) {
-                QCOMPARE(idUtenteSelezionato, 0); // managing forgets the athlete
-                form.unload();
-                idModelloSelezionato = answer;
-            });
-            idUtenteSelezionato = 2;
-            menu(u"mnuSchedeGestioneModello"_s);
-            QCOMPARE(mdiScheda::comune().isVisible(), answer == 1);
-        }
     }
 };
 

@@ -6,20 +6,9 @@
 #include "support/Installed.h"
 
 #include <QHash>
-#include <QStringList>
+#include <QList>
 
 // Controls of plain data, for tests of what a record does with one.
-
-class FakeItemList : public host::ItemList {
-public:
-    void addItem(const QString& text) override { items.append(text); }
-    int count() const override { return static_cast<int>(items.size()); }
-    QString item(int index) const override { return items.at(index); }
-    QString text() const override { return shown; }
-
-    QStringList items;
-    QString shown;
-};
 
 class FakeCheckList : public host::CheckList {
 public:

@@ -39,8 +39,8 @@ private Q_SLOTS:
     void italianEverywhere() {
         QCOMPARE(QLocale().language(), QLocale::Italian);
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), u"Annulla"_s);
-        QCOMPARE(toolkit::FileDialogs::nameFilters(u"File Immagine|*.JPG;*.BMP;*.GIF|Tutti|*"_s),
-                 QStringList({u"File Immagine (*.JPG *.BMP *.GIF)"_s, u"Tutti (*)"_s}));
+        QCOMPARE(toolkit::FileDialogs::nameFilters(u"File|*.JPG;*.BMP|Tutti|*"_s).join(u' '),
+                 u"File (*.JPG *.BMP) Tutti (*)"_s);
     }
 };
 
