@@ -17,6 +17,9 @@ namespace {
 /// Two-digit years from here on belong to the twentieth century, as most desktops read them.
 constexpr int firstOfLastCentury = 30;
 
+/// What a year of four digits begins with; as a year of two it waits for the field to be left.
+const QStringList centuries{u"17"_s, u"18"_s, u"19"_s, u"20"_s};
+
 bool isSeparator(const QString& text) {
     return text.size() == 1 && u"/.- "_s.contains(text);
 }
@@ -79,6 +82,8 @@ void DatePicker::typeDigit(QKeyEvent* event) {
     QDateEdit::keyPressEvent(event);
     if (section != DaySection)
         bringDayBack();
+    if (!centuries.contains(sectionText(YearSection)))
+        completeYear(); // at once, since a toolbar button takes the date without leaving the field
     seen_ = date();
 }
 

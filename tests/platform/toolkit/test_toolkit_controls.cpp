@@ -125,11 +125,16 @@ private Q_SLOTS:
                 QTest::keyClicks(picker, keys);
                 if (enter == u"return")
                     QTest::keyClick(picker, Qt::Key_Return);
-                else
+                else if (enter == u"tab")
                     other->setFocus();
                 QCOMPARE(keys + picker->value().toString(u"|yyyyMMdd"_s), row);
                 other->setFocus();
             }
+        picker->setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(picker, u"311220"_s); // may become any year of the century
+        QCOMPARE(picker->value(), QDate(2026, 12, 31));
+        other->setFocus();
+        QCOMPARE(picker->value(), QDate(2020, 12, 31));
     }
 
     void captionsRunIntoFreeRoomThenNarrow() {
