@@ -257,7 +257,7 @@ QByteArray SchedaSospesa::file(const Stato& stato, const QDateTime& ora) {
     tutto.insert("eliminati"_L1, elencoRighe(stato.eliminati));
     tutto.insert("pagina"_L1, stato.pagina ? oggetto(*stato.pagina) : QJsonValue());
     return QJsonDocument(
-               {{"versione"_L1, versione}, {"ora"_L1, ora.toString(Qt::ISODate)}, {"stato"_L1, tutto}})
+               {{"versione"_L1, versione}, {"ora"_L1, ora.toString(Qt::ISODateWithMs)}, {"stato"_L1, tutto}})
         .toJson(QJsonDocument::Compact);
 }
 

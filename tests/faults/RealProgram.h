@@ -47,7 +47,7 @@ public:
     QString answer(const QString& beginning, const QString& button = QStringLiteral("OK")) {
         static const QRegularExpression number(QStringLiteral("^\\d+-"));
         waitFor(QStringLiteral("messageBox"));
-        const QString said = text(QStringLiteral("messageBox"));
+        QString said = text(QStringLiteral("messageBox"));
         if (!QString(said).remove(number).startsWith(beginning))
             fail("a box says: " + said);
         press(QStringLiteral("messageBox#button:") + button);

@@ -53,7 +53,7 @@ void fuzz::pictures(const QByteArray& input) {
         require(sheet::Picture::ownSize(path) == own, "both readers know one size");
     }
     if (unprinted == 0) {
-        require(printed.bytes() <= 240 * 160 * 4, "no more detail than the printer shows");
+        require(printed.bytes() <= 240LL * 160 * 4, "no more detail than the printer shows");
         require(printed.stretchedTo({60, 40}).size() == QSize(60, 40), "it fills its box");
     }
 }

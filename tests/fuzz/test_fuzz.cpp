@@ -23,7 +23,7 @@ QByteArray anyInput(const QList<QByteArray>& corpus, QRandomGenerator& random) {
         const qsizetype at = random.bounded(input.size() + 1);
         const QByteArray byte(1, static_cast<char>(random.bounded(256)));
         const QByteArray pieces[] = {{}, input.mid(at, 16), any(corpus).mid(at, 16), any(edges), byte};
-        input.replace(at, random.bounded(8) * random.bounded(3), pieces[random.bounded(5)]);
+        input.replace(at, qsizetype{random.bounded(8)} * random.bounded(3), pieces[random.bounded(5)]);
     }
     return input;
 }

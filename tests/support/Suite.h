@@ -3,7 +3,7 @@
 #include <QTest>
 
 /// Several test classes in one program, which saves a link for each. A class bears the name of its file
-/// without "test_"; what stands behind the name is Qt Test's own: `test_records scheda travasaTo:shared`.
+/// without "test_"; what stands behind the name is Qt Test's own: `test_records scheda linesKeepTheirPlaces`.
 namespace suite {
 
 using Run = int (*)(int argc, char** argv);

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QTabBar>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,16 @@ Texts textsOf(const QHeaderView& header) {
         if (!header.isSectionHidden(section))
             texts.append({header.model()->headerData(section, header.orientation()).toString(),
                           {header.sectionSize(section) - 8, header.height()}});
+    return texts;
+}
+
+Texts textsOf(const QTabBar& tabs) {
+    const bool upright = tabs.shape() == QTabBar::RoundedWest;
+    Texts texts;
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        const QSize room = tabs.tabRect(tab).intersected(tabs.rect()).size() - QSize(2, 2);
+        texts.append({tabs.tabText(tab), upright ? room.transposed() : room});
+    }
     return texts;
 }
 
@@ -60,6 +71,8 @@ Texts textsOf(const QWidget& widget) {
         return textsOf(*combo);
     if (const auto* header = qobject_cast<const QHeaderView*>(&widget))
         return textsOf(*header);
+    if (const auto* tabs = qobject_cast<const QTabBar*>(&widget))
+        return textsOf(*tabs);
     return {};
 }
 

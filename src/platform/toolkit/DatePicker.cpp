@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QWheelEvent>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +18,9 @@ namespace {
 /// Two-digit years from here on belong to the twentieth century, as most desktops read them.
 constexpr int firstOfLastCentury = 30;
 
-/// What a year of four digits begins with; as a year of two it waits for the field to be left.
-const QStringList centuries{u"17"_s, u"18"_s, u"19"_s, u"20"_s};
+bool isModifier(int key) {
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+}
 
 bool isSeparator(const QString& text) {
     return text.size() == 1 && u"/.- "_s.contains(text);
@@ -49,28 +51,45 @@ void DatePicker::setValue(QDate date) {
     setDate(date);
 }
 
+void DatePicker::commit() {
+    completeYear();
+    interpretText();
+    typedDay_ = 0;
+}
+
 bool DatePicker::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress)
+        commit();
     if (event->type() == QEvent::MouseButtonRelease && !lineEdit()->hasSelectedText())
         setSelectedSection(currentSection());
     return QDateEdit::eventFilter(watched, event);
 }
 
 void DatePicker::keyPressEvent(QKeyEvent* event) {
-    if (isSeparator(event->text())) {
-        if (lineEdit()->hasSelectedText())
-            return; // nothing is typed here yet: the digits before have moved on by themselves
+    if (isModifier(event->key())) { // on its way to a separator, perhaps
+        QDateEdit::keyPressEvent(event);
+        return;
+    }
+    const bool movedOn = std::exchange(movedOn_, false);
+    const bool plain = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
+    if (plain && isDigit(event->text())) {
+        typeDigit(event);
+    } else if (plain && isSeparator(event->text())) {
+        if (movedOn)
+            return;
         QKeyEvent slash(QEvent::KeyPress, Qt::Key_Slash, Qt::NoModifier, u"/"_s);
         QDateEdit::keyPressEvent(&slash);
-    } else if (isDigit(event->text())) {
-        typeDigit(event);
     } else {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        typedDay_ = 0;
+        if (event->key() != Qt::Key_Backspace && event->key() != Qt::Key_Delete)
             completeYear();
         QDateEdit::keyPressEvent(event);
     }
 }
 
 void DatePicker::typeDigit(QKeyEvent* event) {
+    if (lineEdit()->selectedText() == text())
+        setSelectedSection(DaySection); // all is to be typed anew
     const Section section = currentSection();
     const int full = section == YearSection ? 4 : 2;
     if (!lineEdit()->hasSelectedText() && sectionText(section).size() == full)
@@ -80,10 +99,9 @@ void DatePicker::typeDigit(QKeyEvent* event) {
     if (section == DaySection)
         typedDay_ = 10 * typedDay_ + event->text().toInt();
     QDateEdit::keyPressEvent(event);
+    movedOn_ = currentSection() != section;
     if (section != DaySection)
         bringDayBack();
-    if (!centuries.contains(sectionText(YearSection)))
-        completeYear(); // at once, since a toolbar button takes the date without leaving the field
     seen_ = date();
 }
 
@@ -104,7 +122,8 @@ void DatePicker::completeYear() {
 }
 
 void DatePicker::focusOutEvent(QFocusEvent* event) {
-    completeYear();
+    commit();
+    movedOn_ = false;
     QDateEdit::focusOutEvent(event);
 }
 

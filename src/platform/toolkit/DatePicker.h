@@ -19,6 +19,9 @@ public:
     /// Raises runtime::InvalidPropertyValue for an invalid date or one before 1753.
     void setValue(QDate date);
 
+    /// Takes what is typed as the date, as leaving the field does. For who takes no focus, as a toolbar.
+    void commit();
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -35,8 +38,9 @@ private:
     void bringDayBack();
     void completeYear();
 
-    int typedDay_ = 0; ///< 0 = none
-    QDate seen_;       ///< the date after the last digit; another one now was not typed
+    bool movedOn_ = false; ///< the last key filled its part, and the next part is marked already
+    int typedDay_ = 0;     ///< 0 = none
+    QDate seen_;           ///< the date after the last digit; another one now was not typed
 };
 
 } // namespace toolkit

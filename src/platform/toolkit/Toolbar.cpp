@@ -1,8 +1,10 @@
 #include "platform/toolkit/Toolbar.h"
 
 #include "platform/runtime/Error.h"
+#include "platform/toolkit/DatePicker.h"
 #include "platform/toolkit/ImageList.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -26,7 +28,11 @@ QToolButton* Toolbar::addButton(const QString& key, const QString& caption, cons
     button->setToolButtonStyle(style_);
     row_->insertWidget(row_->count() - 1, button);
     entries_.push_back({key, button});
-    connect(button, &QToolButton::clicked, this, [this, key] { Q_EMIT buttonClick(key); });
+    connect(button, &QToolButton::clicked, this, [this, key] {
+        if (auto* date = qobject_cast<DatePicker*>(QApplication::focusWidget()))
+            date->commit(); // which keeps the focus, and may be half typed
+        Q_EMIT buttonClick(key);
+    });
     return button;
 }
 
