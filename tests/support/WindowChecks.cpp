@@ -35,8 +35,8 @@ Texts textsOf(const QTabBar& tabs) {
     const bool upright = tabs.shape() == QTabBar::RoundedWest;
     Texts texts;
     for (int tab = 0; tab < tabs.count(); ++tab) {
-        const QSize room = tabs.tabRect(tab).intersected(tabs.rect()).size() - QSize(2, 2);
-        texts.append({tabs.tabText(tab), upright ? room.transposed() : room});
+        const QSize room = tabs.tabRect(tab).intersected(tabs.rect()).size();
+        texts.append({tabs.tabText(tab), (upright ? room.transposed() : room) - QSize(4, 0)});
     }
     return texts;
 }
@@ -119,7 +119,8 @@ QStringList cutTexts(const QWidget& window) {
         if (!widget->isVisible())
             continue;
         const QFontMetrics font = widget->fontMetrics();
-        const bool inside = widget->parentWidget()->rect().adjusted(0, 0, 1, 1).contains(widget->geometry());
+        const bool inside = qobject_cast<const QTabBar*>(widget) != nullptr || // a strip ends in free room
+                            widget->parentWidget()->rect().adjusted(0, 0, 1, 1).contains(widget->geometry());
         for (const auto& [text, room] : textsOf(*widget))
             if (!text.isEmpty() &&
                 (!inside || font.height() - 1 > room.height() || // without the empty leading
