@@ -146,8 +146,7 @@ void leaveCard(Tour& tour, const QString& answer, const QString& picture = {}) {
 
 void findItAgain(Tour& tour) {
     leaveCard(tour, u"Sì"_s, u"fine"_s);
-    Tour::run(u"xdotool getactivewindow windowminimize"_s);
-    Tour::run(u"timeout 60"_s, {tour.executable}); // a second start brings the first one up, and ends
+    Tour::run(u"timeout 60"_s, {tour.executable}); // a second start ends, and well
     tour.window(u"Principale"_s);
     chooseAthlete(tour, u"Principale/apri"_s, u"SchedeSelezione"_s);
     tour.shot(u"elenco-schede"_s, {u"SchedeSelezione"_s});
