@@ -46,11 +46,12 @@ public:
     }
     /// Clicks into each field, selects what stands there, and types.
     void fill(const QList<std::pair<QString, QString>>& fields) {
-        for (const auto& [field, text] : fields) {
+        for (const auto& each : fields) {
+            const QString& field = each.first;
             click(field);
             until("the focus of " + field, [&] { return see(field)["focus"].toBool(); });
-            pointer("key ctrl+a type --delay 8", {text});
-            reads(field, text.right(4));
+            pointer("key ctrl+a type --delay 8", {each.second});
+            reads(field, each.second.right(4));
         }
     }
 
@@ -92,7 +93,7 @@ public:
     }
     /// Prints from a window into a PDF beside the pictures; gives its path.
     QString print(const QString& name, const QString& file, const QString& picture = {}) {
-        const QString pdf = QStringLiteral("%1/%2.pdf").arg(pictures, file);
+        QString pdf = QStringLiteral("%1/%2.pdf").arg(pictures, file);
         go(name + "/Stampa", QStringLiteral("printerDialog"), picture);
         reads(QStringLiteral("filename"), QStringLiteral(".pdf")); // is proposed
         fill({{QStringLiteral("filename"), pdf}});
