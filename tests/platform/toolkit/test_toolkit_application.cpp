@@ -3,6 +3,7 @@
 #include "platform/toolkit/Hourglass.h"
 #include "platform/toolkit/MessageBoxes.h"
 #include "support/Suite.h"
+#include "support/ToolkitTest.h"
 
 #include <QTimer>
 
@@ -13,6 +14,12 @@ using host::Buttons;
 class TestApplication : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void anyExceptionIsReported() {
+        const ExpectedFatal fatal;
+        QTimer::singleShot(0, this, [] { throw std::runtime_error("standard"); });
+        QTRY_COMPARE(fatal.description, u"standard"_s);
+    }
+
     void scaleSteps() {
         for (const auto& [available, scale] : {std::pair(QSize(800, 600), 1.0), // smaller than the design
                                                {QSize(1280, 959), 1.0},
