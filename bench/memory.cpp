@@ -72,10 +72,11 @@ int main(int argc, char** argv) {
             before = resident();
             heapBefore = inUse();
         }
-        const std::string figure = "after the editor was open " + std::to_string(times) + " times";
-        const std::string peer = " (raw: " + std::to_string(last / 10) + ")";
-        bench::print("resident " + figure + peer, resident(), before, "MiB", "flat");
-        bench::print("heap in use, pixmap cache left out, " + figure + peer, inUse(), heapBefore, "MiB",
-                     "flat");
+        std::string figure = "after the editor was open ";
+        figure += std::to_string(times);
+        figure += " times (raw: " + std::to_string(last / 10);
+        figure += ')';
+        bench::print("resident " + figure, resident(), before, "MiB", "flat");
+        bench::print("heap in use, pixmap cache left out, " + figure, inUse(), heapBefore, "MiB", "flat");
     }
 }
