@@ -15,9 +15,6 @@ namespace toolkit {
 
 namespace {
 
-/// Two-digit years from here on belong to the twentieth century, as most desktops read them.
-constexpr int firstOfLastCentury = 30;
-
 bool isModifier(int key) {
     return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
 }
@@ -113,11 +110,10 @@ void DatePicker::bringDayBack() {
 
 void DatePicker::completeYear() {
     const QString year = sectionText(YearSection);
-    if (year.size() != 2)
+    const auto meant = runtime::parseDate(u"1/1/"_s + year, runtime::DateOrder::DayFirst);
+    if (year.size() != 2 || !meant)
         return;
-    const int number = year.toInt();
-    const int meant = number + (number < firstOfLastCentury ? 2000 : 1900);
-    setDate(date().addYears(meant - date().year()));
+    setDate(date().addYears(meant->date().year() - date().year()));
     bringDayBack();
 }
 
